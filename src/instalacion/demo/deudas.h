@@ -1,0 +1,51 @@
+#pragma once
+
+#include "instalacion/demo/negocio.h"
+
+#include <map>
+
+namespace kestrane::demo {
+
+/// Sales that were left unpaid in part or whole, and how they are paid later.
+class Deudas
+{
+public:
+    Deudas(Negocio& negocio, Azar azar);
+
+    /// A sale of which half or all stays open. It must have a client.
+    void apunta(const Venta& venta);
+    /// The payments that come in on a day. Returns the cash among them.
+    Dinero cobra(const Turno& turno);
+    /// The table of debts, as it stands.
+    void escribe() const;
+
+private:
+    struct Deuda
+    {
+        int numero = 0;
+        int factura = 0;
+        int cliente = 0;
+        int empleado = 0;
+        int numeroTienda = 0;
+        Dinero importe;
+        Dinero pagado;
+        Fecha fecha;
+        QString tienda;
+    };
+    struct Plazo
+    {
+        std::size_t deuda = 0;
+        Dinero importe;
+    };
+
+    void programa(std::size_t cual);
+    void anticipa(const Turno& turno);
+    Dinero paga(const Plazo& plazo, const Turno& turno);
+
+    Negocio& m_negocio;
+    Azar m_azar;
+    std::vector<Deuda> m_deudas;
+    std::vector<std::multimap<Fecha, Plazo>> m_plazos; // by store
+};
+
+} // namespace kestrane::demo

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "instalacion/demo/destino.h"
+#include "instalacion/demo/parametros.h"
+
+namespace kestrane::demo {
+
+/// Makes a whole demo shop and hands its rows to `destino`, day by day: memory does not grow with the number of sales. Equal
+/// parameters give equal rows in equal order.
+void generaTienda(const Parametros& parametros, Destino& destino);
+
+} // namespace kestrane::demo

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+class QIODevice;
+
+namespace kestrane::instalacion {
+
+// The exit status of `crear-tienda`.
+inline constexpr int SalidaBien = 0;
+inline constexpr int SalidaError = 1; ///< it could not be done; what was there is as it was
+inline constexpr int SalidaUso = 2;   ///< the command line makes no sense
+
+/// Runs the program: what was made goes to `salida`, why not to `errores`, one sentence each, in UTF-8. `carpetaPrograma` is where
+/// the executable stands.
+int ejecutaPrograma(const QStringList& argumentos, const QString& carpetaPrograma, QIODevice& salida, QIODevice& errores);
+
+} // namespace kestrane::instalacion

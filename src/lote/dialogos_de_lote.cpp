@@ -1,0 +1,251 @@
+#include "lote/dialogos_de_lote.h"
+
+#include "lote/peticion_imposible.h"
+#include "pipeline/catalogue/condiciones.h"
+#include "pipeline/sabores.h"
+#include "platform/database/recordset.h"
+
+namespace kestrane::lote {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QStringView OrdenesDeProductos[] = {u"Nombre", u"Seccion", u"Proveedor", u"Codigo", u"Stock"};
+constexpr QStringView OrdenesDeClientes[] = {u"Nombre", u"Ingreso", u"nacimiento", u"UltimaVisita", u"Apellidos"};
+constexpr QStringView OrdenesDeServicios[] = {u"Nombre", u"Seccion", u"Codigo"};
+
+QString tituloDeClase(const QString& clase)
+{
+    if (clase == u"V")
+        return u"LISTADO X TIPO DE PRODUCTOS = Productos de Venta"_s;
+    if (clase == u"CI")
+        return u"LISTADO X TIPO DE PRODUCTOS = Productos de Consumo Interno"_s;
+    return clase == u"A" ? u"LISTADO X TIPO DE PRODUCTOS = Ambos"_s : u"LISTADO X TIPO DE PRODUCTOS = Todos"_s;
+}
+
+} // namespace
+
+DialogosDeLote::DialogosDeLote(ContextoEjecucion& contexto, const PedidoInforme& pedido, const Reloj& reloj)
+    : m_contexto{contexto}
+    , m_respuestas{pedido, reloj}
+    , m_reloj{reloj}
+{
+}
+
+void DialogosDeLote::Muestra(Dialogo dialogo, const QString&)
+{
+    switch (dialogo) {
+    case Dialogo::Fechas:
+        return fechas();
+    case Dialogo::FechasConFormatos:
+        fechas();
+        m_contexto.FormatoTicket = m_respuestas.tiene(Respuesta::Ticket);
+        return;
+    case Dialogo::Buscar:
+        return buscar();
+    case Dialogo::HistoricoXClientes:
+        return historicoXClientes();
+    case Dialogo::HistoricoXEmpleados:
+        return historicoXEmpleados();
+    case Dialogo::FiltrosProductos:
+        return filtrosProductos();
+    case Dialogo::ProductosVendidos:
+        return productosVendidos();
+    case Dialogo::OrdenClientes:
+        return ordenClientes();
+    case Dialogo::OrdenServicios:
+        m_contexto.filtros.columnaOrden = m_respuestas.columnaDeOrden(OrdenesDeServicios);
+        return acepta();
+    case Dialogo::ClientesPerdidos:
+        return clientesPerdidos();
+    case Dialogo::Meses:
+        return meses();
+    case Dialogo::ReImprimir:
+        return reImprimir();
+    case Dialogo::SelTienda:
+        return; // the store was chosen at the start
+    }
+}
+
+void DialogosDeLote::ponPeriodo()
+{
+    const Fecha desde = m_respuestas.dia(Respuesta::Desde);
+    const Fecha hasta = m_respuestas.dia(Respuesta::Hasta);
+    if (hasta < desde)
+        throw PeticionImposible{u"La fecha hasta seleccionada es anterior a la fecha desde."_s};
+    m_contexto.FechaDesde = desde;
+    m_contexto.FechaHasta = hasta;
+}
+
+/// The box is there only with the invoice module, and leaves the value alone while it is not ticked.
+void DialogosDeLote::ponCompleta()
+{
+    if (m_contexto.ModuloFacturas && m_respuestas.tiene(Respuesta::Completa))
+        m_contexto.CajaCompleta = true;
+}
+
+void DialogosDeLote::fechas()
+{
+    m_contexto.FormatoTicket = false;
+    m_contexto.CajaCompleta = false;
+    ponCompleta();
+    ponPeriodo();
+    acepta();
+}
+
+void DialogosDeLote::buscar()
+{
+    m_contexto.ClienteBuscado = m_respuestas.exigeNumero(Respuesta::Cliente);
+}
+
+void DialogosDeLote::historicoXClientes()
+{
+    Filtros& filtros = m_contexto.filtros;
+    filtros.seccion = m_respuestas.numero(Respuesta::Seccion, -1);
+    filtros.todasLasSecciones = filtros.seccion == -1;
+    const bool soloHayProductos = esDeAlimentacionYPerfume(m_contexto.TipoPrograma);
+    const QString solo = soloHayProductos ? u"productos"_s : m_respuestas.texto(Respuesta::Solo);
+    filtros.soloProductos = solo == u"productos";
+    filtros.soloServicios = solo == u"servicios";
+    m_contexto.FormatoTicket = m_respuestas.tiene(Respuesta::Ticket);
+    ponCompleta();
+    ponPeriodo();
+    acepta();
+}
+
+void DialogosDeLote::historicoXEmpleados()
+{
+    m_contexto.CajaCompleta = false;
+    m_contexto.filtros.empleado = m_respuestas.numero(Respuesta::Empleado, -1);
+    m_contexto.filtros.totalizado = m_respuestas.tiene(Respuesta::Totalizado);
+    m_contexto.FormatoTicket = m_respuestas.tiene(Respuesta::Ticket);
+    ponCompleta();
+    ponPeriodo();
+    acepta();
+}
+
+void DialogosDeLote::filtrosProductos()
+{
+    Filtros& filtros = m_contexto.filtros;
+    filtros.seccion = filtros.proveedor = filtros.proveedorBajoMinimos = -1;
+    filtros.claseProducto.clear();
+    // Under the minimum alone the page with the filters is passed over, title and all.
+    if (m_contexto.SoloBajoMinimos)
+        filtros.bajoMinimos = true;
+    else if (m_respuestas.tiene(Respuesta::BajoMinimos))
+        eligeBajoMinimos();
+    else
+        eligeProductos();
+    filtros.columnaOrden = m_respuestas.columnaDeOrden(OrdenesDeProductos);
+    acepta();
+}
+
+void DialogosDeLote::eligeBajoMinimos()
+{
+    Filtros& filtros = m_contexto.filtros;
+    filtros.bajoMinimos = true;
+    filtros.proveedorBajoMinimos = m_respuestas.numero(Respuesta::Proveedor, -1);
+    filtros.titulo = u"LISTADO DE PRODUCTOS BAJO MINIMOX Proveedor = "_s + nombreDeProveedor(filtros.proveedorBajoMinimos);
+}
+
+/// One block of the page: the last one that the operator accepts clears the others.
+void DialogosDeLote::eligeProductos()
+{
+    Filtros& filtros = m_contexto.filtros;
+    filtros.bajoMinimos = false;
+    if (m_respuestas.tiene(Respuesta::Proveedor)) {
+        filtros.proveedor = m_respuestas.numero(Respuesta::Proveedor, -1);
+        filtros.titulo = u"LISTADO DE PRODUCTOS X PROVEEDOR = "_s + nombreDeProveedor(filtros.proveedor);
+        return;
+    }
+    if (m_respuestas.tiene(Respuesta::Seccion)) {
+        filtros.seccion = m_respuestas.numero(Respuesta::Seccion, -1);
+        filtros.titulo = u"LISTADO DE PRODUCTOS X SECCIONES = "_s + nombreDeSeccion(filtros.seccion);
+        return;
+    }
+    filtros.claseProducto = m_respuestas.texto(Respuesta::Clase);
+    filtros.titulo = tituloDeClase(filtros.claseProducto);
+}
+
+void DialogosDeLote::productosVendidos()
+{
+    m_contexto.filtros.empleado = m_respuestas.numero(Respuesta::Empleado, -1);
+    m_contexto.filtros.proveedor = m_respuestas.numero(Respuesta::Proveedor, -1);
+    acepta();
+}
+
+void DialogosDeLote::ordenClientes()
+{
+    m_contexto.filtros.soloConEmail = m_respuestas.tiene(Respuesta::SoloEmail);
+    m_contexto.filtros.columnaOrden =
+        m_contexto.filtros.soloConEmail ? u"Nombre"_s : m_respuestas.columnaDeOrden(OrdenesDeClientes);
+    acepta();
+}
+
+void DialogosDeLote::clientesPerdidos()
+{
+    m_contexto.FechaDesde = m_respuestas.dia(Respuesta::Desde);
+    acepta();
+}
+
+void DialogosDeLote::meses()
+{
+    m_contexto.CajaCompleta = false;
+    ponCompleta();
+    m_contexto.filtros.mes = static_cast<qint16>(m_respuestas.numero(Respuesta::Mes, m_reloj.hoy().mes()));
+    m_contexto.filtros.anio = static_cast<qint16>(m_respuestas.numero(Respuesta::Anio, m_reloj.hoy().anio()));
+    acepta();
+}
+
+void DialogosDeLote::reImprimir()
+{
+    m_contexto.NumeroReimpresion = m_respuestas.exigeNumero(Respuesta::Factura);
+    m_contexto.ReimprimirFactura = true;
+    acepta();
+}
+
+QString DialogosDeLote::nombreDe(const QString& sentencia, qint32 codigo, const QString& todos)
+{
+    if (codigo == -1)
+        return todos;
+    Recordset filas;
+    filas.Open(sentencia, m_contexto.ConexionTienda);
+    for (Recordset& fila : filas) {
+        if (fila.Fields(u"codigo").entero32() == codigo)
+            return fila.Fields(u"nombre").esNulo() ? QString{} : fila.Fields(u"nombre").texto();
+    }
+    throw PeticionImposible{u"%1 no ofrece el código %2."_s.arg(m_respuestas.control()).arg(codigo)};
+}
+
+QString DialogosDeLote::nombreDeProveedor(qint32 codigo)
+{
+    return nombreDe(u"Select * from Proveedores where Borrar=false order by posicion"_s, codigo, u"Todos los Proveedores"_s);
+}
+
+QString DialogosDeLote::nombreDeSeccion(qint32 codigo)
+{
+    return nombreDe(u"Select * from Seccion where Borrar=false order by posicion"_s, codigo, u"Todas las Secciones"_s);
+}
+
+void eligeTienda(ContextoEjecucion& contexto, const QString& tienda)
+{
+    if (tienda.isEmpty() || tienda.compare(u"Todas"_s, Qt::CaseInsensitive) == 0) {
+        contexto.TiendaSeleccionada.clear();
+        return;
+    }
+    if (!catalogue::enServidor(contexto)) {
+        contexto.TiendaSeleccionada = tienda;
+        return;
+    }
+    const int ultima = contexto.Tiendas.reservado() ? contexto.Tiendas.limiteSuperior() - 1 : 0;
+    for (int indice = 1; indice <= ultima; ++indice) {
+        if (contexto.Tiendas[indice].Texto.compare(tienda, Qt::CaseInsensitive) == 0) {
+            contexto.TiendaSeleccionada = contexto.Tiendas[indice].Texto;
+            return;
+        }
+    }
+    throw PeticionImposible{u"El servidor no tiene ninguna tienda \"%1\"."_s.arg(tienda)};
+}
+
+} // namespace kestrane::lote

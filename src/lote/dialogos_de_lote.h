@@ -1,0 +1,51 @@
+#pragma once
+
+#include "lote/respuestas_dadas.h"
+
+namespace kestrane::lote {
+
+/// Answers the dialogs with the options of the command line, and leaves in the run context what each dialog would have left there.
+class DialogosDeLote final : public Dialogos
+{
+public:
+    /// All three outlive the object.
+    DialogosDeLote(ContextoEjecucion& contexto, const PedidoInforme& pedido, const Reloj& reloj);
+
+    /// PeticionImposible when the dialog would not take the answers, or lacks one.
+    void Muestra(Dialogo dialogo, const QString& titulo) override;
+
+    /// The options that were given and that no dialog asked for, as "--desde".
+    [[nodiscard]] QStringList ignoradas() const { return m_respuestas.ignoradas(); }
+
+private:
+    void acepta() { m_contexto.FiltroAceptado = true; }
+    void ponPeriodo();
+    void ponCompleta();
+
+    void fechas();
+    void buscar();
+    void historicoXClientes();
+    void historicoXEmpleados();
+    void filtrosProductos();
+    void eligeProductos();
+    void eligeBajoMinimos();
+    void productosVendidos();
+    void ordenClientes();
+    void clientesPerdidos();
+    void meses();
+    void reImprimir();
+
+    [[nodiscard]] QString nombreDe(const QString& sentencia, qint32 codigo, const QString& todos);
+    [[nodiscard]] QString nombreDeProveedor(qint32 codigo);
+    [[nodiscard]] QString nombreDeSeccion(qint32 codigo);
+
+    ContextoEjecucion& m_contexto;
+    RespuestasDadas m_respuestas;
+    const Reloj& m_reloj;
+};
+
+/// Chooses a store as a press on its panel does; "Todas" and "" are all of them. PeticionImposible on the server when it is none of
+/// its stores.
+void eligeTienda(ContextoEjecucion& contexto, const QString& tienda);
+
+} // namespace kestrane::lote

@@ -1,0 +1,156 @@
+#include "lote/informe_de_lote.h"
+
+#include "lote/copia_listados.h"
+#include "lote/dialogos_de_lote.h"
+#include "lote/estado_de_salida.h"
+#include "lote/ficheros_salida.h"
+#include "lote/informes_csv.h"
+#include "lote/informes_json.h"
+#include "lote/pantalla_de_lote.h"
+#include "pipeline/catalogue/catalogo.h"
+#include "pipeline/catalogue/ejecutor.h"
+#include "platform/suite/preferencias_en_tabla.h"
+#include "run_context/principal.h"
+
+#include <QElapsedTimer>
+
+namespace kestrane::lote {
+
+using namespace Qt::StringLiterals;
+using catalogue::Clase;
+using catalogue::FilaCatalogo;
+
+namespace {
+
+std::unique_ptr<Reloj> relojDe(const std::optional<Fecha>& hoy)
+{
+    if (hoy)
+        return std::make_unique<RelojFijo>(*hoy);
+    return std::make_unique<RelojSistema>();
+}
+
+std::unique_ptr<EscritorInformes> escritorDe(Formato formato)
+{
+    if (formato == Formato::Csv)
+        return std::make_unique<InformesCsv>();
+    return std::make_unique<InformesJson>();
+}
+
+std::unique_ptr<Progreso> progresoDe(const EntornoDeLote& entorno)
+{
+    if (!entorno.erroresEnTerminal)
+        return std::make_unique<ProgresoCallado>();
+    QElapsedTimer desde;
+    desde.start();
+    return std::make_unique<ProgresoDeLote>(entorno.errores, [desde] { return desde.elapsed(); });
+}
+
+bool estaDisponible(const FilaCatalogo& fila)
+{
+    return fila.clase == Clase::Informe && catalogue::constructorQueFalta(fila).isEmpty();
+}
+
+/// One run, from the copy of the reports database to the files.
+class Carrera
+{
+public:
+    Carrera(const Opciones& opciones, const database::OpcionesDatos& datos, const EntornoDeLote& entorno)
+        : m_opciones{opciones}
+        , m_entorno{entorno}
+        , m_copia{datos, opciones.informe.carpetaListados}
+        , m_datos{m_copia.opciones()}
+        , m_reloj{relojDe(opciones.hoy)}
+        , m_escritor{escritorDe(opciones.informe.formato)}
+    {
+    }
+
+    int corre()
+    {
+        llenaContexto();
+        if (pedido().tienda)
+            eligeTienda(m_contexto, *pedido().tienda);
+        ejecuta();
+        m_salida.termina();
+        m_contexto.ConexionListados.Close();
+        entrega();
+        return m_salida.sinDatos() ? SalidaSinDatos : SalidaBien;
+    }
+
+private:
+    [[nodiscard]] const PedidoInforme& pedido() const { return m_opciones.informe; }
+
+    void llenaContexto()
+    {
+        m_contexto.CarpetaPrograma = m_entorno.carpetaPrograma;
+        ConectorTiendaDsn conector;
+        PreferenciasEnTabla preferencias;
+        Principal principal{m_contexto, conector, preferencias, *m_reloj};
+        principal.AbreConexiones();
+        principal.Inicializa();
+    }
+
+    void ejecuta()
+    {
+        MenuDeLote menu;
+        MensajesDeLote mensajes{m_entorno.errores};
+        DialogosDeLote dialogos{m_contexto, pedido(), *m_reloj};
+        const std::unique_ptr<Progreso> progreso = progresoDe(m_entorno);
+        const Pantalla pantalla{menu, dialogos, *progreso, m_salida, mensajes};
+        try {
+            catalogue::Ejecutor{m_contexto, pantalla, *m_reloj}.ejecuta(*pedido().fila);
+        } catch (...) {
+            progreso->cerrar();
+            throw;
+        }
+        for (const QString& opcion : dialogos.ignoradas())
+            mensajes.Informa(u"%1 no ofrece %2, que se ignora."_s.arg(pedido().fila->control, opcion), {});
+    }
+
+    void entrega() const
+    {
+        if (pedido().salida.isEmpty())
+            escribeEn(m_entorno.salida, *m_escritor, m_salida.informes());
+        else
+            escribeFicheros(pedido().salida, *m_escritor, m_salida.informes());
+    }
+
+    const Opciones& m_opciones;
+    const EntornoDeLote& m_entorno;
+    CopiaListados m_copia;
+    EntornoDatos m_datos;
+    QTemporaryDir m_temporal;
+    ContextoEjecucion m_contexto{m_datos};
+    std::unique_ptr<Reloj> m_reloj;
+    std::unique_ptr<EscritorInformes> m_escritor;
+    SalidaDeLote m_salida{m_contexto, m_opciones.informe.fila->control, *m_escritor, m_temporal.path()};
+};
+
+} // namespace
+
+int ejecutaInforme(const Opciones& opciones, const database::OpcionesDatos& datos, const EntornoDeLote& entorno)
+{
+    const FilaCatalogo& fila = *opciones.informe.fila;
+    if (!estaDisponible(fila)) {
+        const auto tipo = fila.clase == Clase::Grafico ? u"El gráfico"_s : u"El listado"_s;
+        MensajesDeLote{entorno.errores}.Informa(u"%1 \"%2\" todavía no está disponible."_s.arg(tipo, fila.leyenda), {});
+        return SalidaError;
+    }
+    if (!opciones.informe.salida.isEmpty())
+        compruebaQueSePuedeEscribir(opciones.informe.salida);
+    return Carrera{opciones, datos, entorno}.corre();
+}
+
+QByteArray listaDeInformes()
+{
+    QByteArray lista;
+    for (const FilaCatalogo& fila : catalogue::catalogo()) {
+        if (fila.clase != Clase::Informe && fila.clase != Clase::Grafico)
+            continue;
+        lista.append(fila.control.toUtf8()).append('\t').append(fila.leyenda.toUtf8());
+        lista.append(fila.clase == Clase::Grafico ? "\tgrafico" : "\tinforme");
+        lista.append(estaDisponible(fila) ? "\n" : "\ttodavía no disponible\n");
+    }
+    return lista;
+}
+
+} // namespace kestrane::lote

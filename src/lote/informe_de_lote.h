@@ -1,0 +1,26 @@
+#pragma once
+
+#include "lote/opciones.h"
+#include "platform/database/entorno_datos.h"
+
+#include <QIODevice>
+
+namespace kestrane::lote {
+
+/// Where a run writes, and what it has to know of the program around it.
+struct EntornoDeLote
+{
+    QString carpetaPrograma;
+    QIODevice& salida;
+    QIODevice& errores;
+    bool erroresEnTerminal = false;
+};
+
+/// Runs the report of `opciones` on the databases that `datos` leads to and writes it. Returns the exit status, 0 or 3 without
+/// data. ErrorEjecucion, ErrorDeSalida and PeticionImposible when it cannot; nothing is written then.
+[[nodiscard]] int ejecutaInforme(const Opciones& opciones, const database::OpcionesDatos& datos, const EntornoDeLote& entorno);
+
+/// One line for each report and chart: control, caption, "informe" or "grafico", and what is not available yet.
+[[nodiscard]] QByteArray listaDeInformes();
+
+} // namespace kestrane::lote

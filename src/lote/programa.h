@@ -1,0 +1,18 @@
+#pragma once
+
+#include "lote/estado_de_salida.h"
+
+#include <QIODevice>
+#include <QStringList>
+
+namespace kestrane::lote {
+
+/// Whether somebody watches the errors as they come.
+enum class DestinoErrores { Fichero, Terminal };
+
+/// `listados-lote`: reads the command line, works, writes results on `salida` and one Spanish sentence per failure on `errores`.
+/// Returns the exit status.
+int ejecutaPrograma(const QStringList& argumentos, const QString& carpetaPrograma, QIODevice& salida, QIODevice& errores,
+                    DestinoErrores destino = DestinoErrores::Fichero);
+
+} // namespace kestrane::lote

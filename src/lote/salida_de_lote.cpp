@@ -1,0 +1,58 @@
+#include "lote/salida_de_lote.h"
+
+#include "lote/error_de_salida.h"
+#include "pipeline/hay_datos.h"
+#include "platform/runtime/error_ejecucion.h"
+
+#include <QDir>
+
+#include <algorithm>
+
+namespace kestrane::lote {
+
+using namespace Qt::StringLiterals;
+
+SalidaDeLote::SalidaDeLote(ContextoEjecucion& contexto, QStringView control, EscritorInformes& escritor, QString carpeta)
+    : m_contexto{contexto}
+    , m_control{control.toString()}
+    , m_escritor{escritor}
+    , m_carpeta{std::move(carpeta)}
+{
+}
+
+void SalidaDeLote::ImprimirReport(const QString& nombre)
+{
+    escribe(nombre);
+    m_impresora.clear();
+}
+
+void SalidaDeLote::MostrarGrafico(const QString& nombre)
+{
+    throw ErrorEjecucion{ErrorEjecucion::SentenciaRechazada, u"El gráfico \"%1\" todavía no está disponible."_s.arg(nombre)};
+}
+
+void SalidaDeLote::termina()
+{
+    if (m_informes.empty())
+        escribe({});
+}
+
+bool SalidaDeLote::sinDatos() const
+{
+    return std::none_of(m_informes.begin(), m_informes.end(), [](const CuerpoInforme& informe) { return informe.datos; });
+}
+
+void SalidaDeLote::escribe(const QString& layout)
+{
+    CuerpoInforme informe{.tienda = m_contexto.TiendaSeleccionada,
+                          .datos = HayDatos(m_contexto.ConexionListados),
+                          .fichero = std::make_unique<QTemporaryFile>(QDir{m_carpeta}.filePath(u"informe"_s))};
+    if (!informe.fichero->open())
+        throw ErrorDeSalida{informe.fichero->errorString()};
+    m_escritor.escribe(
+        {.control = m_control, .tienda = informe.tienda, .layout = layout, .impresora = m_impresora, .datos = informe.datos},
+        m_contexto.ConexionListados, *informe.fichero);
+    m_informes.push_back(std::move(informe));
+}
+
+} // namespace kestrane::lote

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "platform/jet/renderer.h"
+
+namespace kestrane::jet {
+
+/// SQLite: conversions, divisions and LIKE are functions that the connection registers.
+class RendererSqlite final : public Renderer
+{
+public:
+    explicit RendererSqlite(const enlazado::Sentencia& sentencia) : Renderer{dialectoDe(Motor::Sqlite), sentencia} {}
+
+protected:
+    void comoTexto(const Expresion& valor) override;
+    void parecido(const enlazado::Parecido& parecido) override;
+    void aritmetica(const enlazado::Aritmetica& cuenta) override;
+};
+
+} // namespace kestrane::jet

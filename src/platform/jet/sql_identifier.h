@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QByteArray>
+#include <QStringView>
+
+namespace kestrane::jet {
+
+/// A name of a table, column or collation in text for an engine. The only place where names are quoted.
+class SqlIdentifier
+{
+public:
+    explicit SqlIdentifier(QStringView nombre) : m_nombre{nombre} {}
+
+    /// Writes the name between two `comilla`, doubling those inside it.
+    void escribe(QByteArray& sql, char comilla) const;
+
+private:
+    QStringView m_nombre;
+};
+
+} // namespace kestrane::jet

@@ -1,0 +1,114 @@
+#include "instalacion/programa.h"
+
+#include <gtest/gtest.h>
+
+#include <QBuffer>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+namespace kestrane::instalacion {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+/// A run of the program in a folder of its own.
+class Programa : public testing::Test
+{
+protected:
+    int corre(const QStringList& argumentos)
+    {
+        QBuffer salida;
+        QBuffer errores;
+        salida.open(QIODevice::WriteOnly);
+        errores.open(QIODevice::WriteOnly);
+        const int estado = ejecutaPrograma(QStringList{u"crear-tienda"_s} + argumentos, m_carpeta.path(), salida, errores);
+        m_salida = salida.data().toStdString();
+        m_errores = errores.data().toStdString();
+        return estado;
+    }
+    [[nodiscard]] std::string ficheros(const QString& carpeta) const
+    {
+        return QDir{m_carpeta.filePath(carpeta)}.entryList(QDir::Files).join(u' ').toStdString();
+    }
+    void expectUso(const QStringList& argumentos, const std::string& comienzo)
+    {
+        EXPECT_EQ(corre(argumentos), SalidaUso);
+        EXPECT_EQ(m_errores.substr(0, comienzo.size()), comienzo);
+        EXPECT_EQ(m_salida, "");
+        EXPECT_EQ(std::ranges::count(m_errores, '\n'), 1) << "one sentence: " << m_errores;
+    }
+    [[nodiscard]] QString ruta(const QString& nombre) const { return m_carpeta.filePath(nombre); }
+
+    std::string m_salida;
+    std::string m_errores;
+
+private:
+    QTemporaryDir m_carpeta;
+};
+
+TEST_F(Programa, WhatItDoesNotUnderstandItSaysInOneSentence)
+{
+    expectUso({u"--vacias"_s}, "No se conoce la opción \"vacias\"");
+    expectUso({u"--vacia"_s, u"--motor"_s}, "La opción --motor necesita un valor");
+    expectUso({u"--vacia"_s, u"--motor"_s, u"oracle"_s}, "No se conoce el motor \"oracle\"");
+    expectUso({u"--vacia"_s, u"aqui"_s}, "No se sabe qué hacer con \"aqui\"");
+    expectUso({u"--vacia"_s, u"--dsn"_s, u"X"_s}, "Con un origen de datos hay que indicar el servidor");
+}
+
+TEST_F(Programa, HelpIsInSpanishAndNoError)
+{
+    for (const QString& opcion : {u"--ayuda"_s, u"-h"_s, u"--help"_s}) {
+        EXPECT_EQ(corre({opcion}), SalidaBien);
+        EXPECT_EQ(m_salida.substr(0, 18), "Uso: crear-tienda ");
+        EXPECT_NE(m_salida.find("--reemplazar"), std::string::npos);
+        EXPECT_EQ(m_errores, "");
+    }
+}
+
+TEST_F(Programa, EmptyDatabasesAreMadeInTheFolderNamed)
+{
+    EXPECT_EQ(corre({u"--vacia"_s, u"--datos"_s, ruta(u"mi carpeta"_s)}), SalidaBien);
+    EXPECT_EQ(ficheros(u"mi carpeta"_s), "ListKestrane.db TiendaKestrane.db");
+    EXPECT_EQ(std::ranges::count(m_salida, '\n'), 2);
+    EXPECT_EQ(m_errores, "");
+}
+
+TEST_F(Programa, WithoutAFolderTheyGoWhereTheProgramsLook)
+{
+    EXPECT_EQ(corre({u"--vacia"_s}), SalidaBien);
+    EXPECT_EQ(ficheros(u"datos"_s), "ListKestrane.db TiendaKestrane.db");
+}
+
+TEST_F(Programa, OneDatabaseThatIsThereKeepsBothFromBeingMade)
+{
+    QDir{}.mkpath(ruta(u"datos"_s));
+    QFile vieja{ruta(u"datos/ListKestrane.db"_s)};
+    ASSERT_TRUE(vieja.open(QIODevice::WriteOnly));
+    vieja.write("vieja");
+    vieja.close();
+    EXPECT_EQ(corre({u"--vacia"_s}), SalidaError);
+    EXPECT_EQ(m_errores.substr(0, 29), "Ya existe la base de datos \"" + ruta(u"x"_s).left(1).toStdString());
+    EXPECT_NE(m_errores.find("--reemplazar"), std::string::npos);
+    EXPECT_EQ(ficheros(u"datos"_s), "ListKestrane.db");
+    EXPECT_EQ(corre({u"--vacia"_s, u"--reemplazar"_s}), SalidaBien);
+    EXPECT_GT(QFileInfo{ruta(u"datos/ListKestrane.db"_s)}.size(), 1000);
+}
+
+TEST_F(Programa, AFolderThatCannotBeMadeIsAnErrorAndNothingStays)
+{
+    QFile estorbo{ruta(u"datos"_s)};
+    ASSERT_TRUE(estorbo.open(QIODevice::WriteOnly));
+    EXPECT_EQ(corre({u"--vacia"_s}), SalidaError);
+    EXPECT_EQ(m_errores.substr(0, 40), "No se puede escribir la base de datos \"/");
+    EXPECT_EQ(m_salida, "");
+}
+
+TEST_F(Programa, ADataSourceThatIsNotDefinedIsAnError)
+{
+    EXPECT_EQ(corre({u"--vacia"_s, u"--motor"_s, u"mariadb"_s, u"--dsn"_s, u"NoExiste"_s}), SalidaError);
+    EXPECT_EQ(m_errores.substr(0, 43), "El origen de datos ODBC \"NoExiste\" no exist");
+}
+
+} // namespace
+} // namespace kestrane::instalacion

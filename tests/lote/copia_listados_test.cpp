@@ -1,0 +1,149 @@
+#include "lote/copia_listados.h"
+
+#include "apoyo/tienda_de_prueba.h"
+#include "platform/database/recordset.h"
+#include "platform/runtime/error_ejecucion.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+
+namespace kestrane::lote {
+namespace {
+
+using namespace Qt::StringLiterals;
+using prueba::TiendaDePrueba;
+
+database::OpcionesDatos en(const QString& carpeta)
+{
+    database::OpcionesDatos opciones;
+    opciones.carpeta = carpeta;
+    return opciones;
+}
+
+/// The only column of a table of the reports database, as texts between ",".
+QString columna(const database::OpcionesDatos& opciones, const QString& sentencia)
+{
+    EntornoDatos entorno{opciones};
+    Conexion conexion{entorno};
+    conexion.Open(u"dsn=ListKestrane"_s);
+    Recordset filas;
+    filas.Open(sentencia, conexion);
+    QStringList valores;
+    for (Recordset& fila : filas)
+        valores += fila.Fields(0).texto();
+    return valores.join(u',');
+}
+
+std::string rechazo(const database::OpcionesDatos& opciones, const QString& carpeta)
+{
+    try {
+        const CopiaListados copia{opciones, carpeta};
+        return {};
+    } catch (const ErrorEjecucion& error) {
+        return error.descripcion().toStdString();
+    }
+}
+
+class CopiaListadosTest : public testing::Test
+{
+protected:
+    CopiaListadosTest()
+    {
+        m_tienda.ejecutaListados({u"insert into informes (texto1) values ('del programa')"_s,
+                                  u"insert into subinformes (texto1) values ('del programa')"_s,
+                                  u"insert into listadostemporal (list1) values ('7')"_s});
+        m_tienda.listados().Close();
+    }
+
+    [[nodiscard]] QString otra(const QString& nombre) const { return QDir{m_tienda.carpeta()}.filePath(nombre); }
+
+    TiendaDePrueba m_tienda;
+};
+
+TEST_F(CopiaListadosTest, WithoutTheOriginalOrOneOfItsTablesThereIsNoCopy)
+{
+    EXPECT_NE(rechazo(en(otra(u"nada"_s)), {}).find("ListKestrane.db"), std::string::npos);
+    for (const QString& tabla : {u"informes"_s, u"subinformes"_s, u"listadostemporal"_s}) {
+        TiendaDePrueba tienda;
+        tienda.quitaTablaListados(tabla);
+        EXPECT_NE(rechazo(en(tienda.carpeta()), {}).find(tabla.toStdString()), std::string::npos) << tabla.toStdString();
+    }
+}
+
+TEST_F(CopiaListadosTest, TheOriginalsFolderIsRefused)
+{
+    EXPECT_NE(rechazo(en(m_tienda.carpeta()), m_tienda.carpeta() + u"/."_s).find("la original"), std::string::npos);
+    EXPECT_EQ(columna(en(m_tienda.carpeta()), u"select texto1 from informes"_s), u"del programa"_s);
+}
+
+TEST_F(CopiaListadosTest, AFolderThatCannotBeMadeIsRefused)
+{
+    QFile fichero{otra(u"fichero"_s)};
+    ASSERT_TRUE(fichero.open(QIODevice::WriteOnly));
+    EXPECT_NE(rechazo(en(m_tienda.carpeta()), otra(u"fichero/dentro"_s)).find("fichero/dentro"), std::string::npos);
+}
+
+TEST_F(CopiaListadosTest, TheStagingTablesAreEmptyAndTheKeyIsCopied)
+{
+    const CopiaListados copia{en(m_tienda.carpeta()), {}};
+    EXPECT_EQ(columna(copia.opciones(), u"select texto1 from informes"_s), u""_s);
+    EXPECT_EQ(columna(copia.opciones(), u"select texto1 from subinformes"_s), u""_s);
+    EXPECT_EQ(columna(copia.opciones(), u"select list1 from listadostemporal"_s), u"7"_s);
+}
+
+TEST_F(CopiaListadosTest, WritingInTheCopyLeavesTheOriginalAlone)
+{
+    const CopiaListados copia{en(m_tienda.carpeta()), {}};
+    EntornoDatos entorno{copia.opciones()};
+    Conexion conexion{entorno};
+    conexion.Open(u"dsn=ListKestrane"_s);
+    conexion.Execute(u"insert into informes (texto1) values ('de lote')"_s);
+    EXPECT_EQ(columna(en(m_tienda.carpeta()), u"select texto1 from informes"_s), u"del programa"_s);
+}
+
+TEST_F(CopiaListadosTest, TheShopIsTheOriginals)
+{
+    m_tienda.ejecuta(u"insert into marcas (codigo, nombre) values (1, 'Zeta')"_s);
+    const CopiaListados copia{en(m_tienda.carpeta()), {}};
+    EntornoDatos entorno{copia.opciones()};
+    Conexion conexion{entorno};
+    conexion.Open(u"dsn=TiendaKestrane"_s);
+    Recordset filas;
+    filas.Open(u"marcas"_s, conexion);
+    EXPECT_EQ(filas.RecordCount(), 1);
+}
+
+TEST_F(CopiaListadosTest, AFolderOfItsOwnGoesWithItAndANamedOneStays)
+{
+    QString propia;
+    {
+        const CopiaListados copia{en(m_tienda.carpeta()), {}};
+        propia = copia.carpeta();
+        EXPECT_TRUE(QFile::exists(propia + u"/ListKestrane.db"_s));
+    }
+    EXPECT_FALSE(QDir{propia}.exists());
+    const QString carpeta = otra(u"copia/dentro"_s);
+    {
+        const CopiaListados copia{en(m_tienda.carpeta()), carpeta};
+    }
+    EXPECT_EQ(columna(en(carpeta), u"select list1 from listadostemporal"_s), u"7"_s);
+}
+
+TEST_F(CopiaListadosTest, ACopyThatIsThereIsReplaced)
+{
+    const QString carpeta = otra(u"copia"_s);
+    {
+        const CopiaListados copia{en(m_tienda.carpeta()), carpeta};
+        EntornoDatos entorno{copia.opciones()};
+        Conexion conexion{entorno};
+        conexion.Open(u"dsn=ListKestrane"_s);
+        conexion.Execute(u"insert into informes (texto1) values ('de antes')"_s);
+    }
+    const CopiaListados copia{en(m_tienda.carpeta()), carpeta};
+    EXPECT_EQ(columna(copia.opciones(), u"select texto1 from informes"_s), u""_s);
+}
+
+} // namespace
+} // namespace kestrane::lote

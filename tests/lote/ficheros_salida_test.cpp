@@ -1,0 +1,125 @@
+#include "lote/ficheros_salida.h"
+
+#include "lote/error_de_salida.h"
+
+#include <gtest/gtest.h>
+
+#include <QBuffer>
+#include <QDir>
+#include <QTemporaryDir>
+
+namespace kestrane::lote {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class EscritorFalso final : public EscritorInformes
+{
+public:
+    void escribe(const InformeMostrado&, Conexion&, QIODevice&) override {}
+    [[nodiscard]] QByteArray principio() const override { return "<"; }
+    [[nodiscard]] QByteArray separador() const override { return "|"; }
+    [[nodiscard]] QByteArray final() const override { return ">"; }
+};
+
+class FicherosSalida : public testing::Test
+{
+protected:
+    void informe(const QString& tienda, const QByteArray& cuerpo)
+    {
+        CuerpoInforme nuevo{.tienda = tienda, .datos = true, .fichero = std::make_unique<QTemporaryFile>()};
+        ASSERT_TRUE(nuevo.fichero->open());
+        nuevo.fichero->write(cuerpo);
+        m_informes.push_back(std::move(nuevo));
+    }
+
+    [[nodiscard]] QString ruta(const QString& nombre) const { return m_carpeta.filePath(nombre); }
+    void escribe(const QString& nombre) { escribeFicheros(ruta(nombre), m_escritor, m_informes); }
+
+    /// "name=content" of all files.
+    [[nodiscard]] QStringList ficheros() const
+    {
+        QStringList todos;
+        for (const QString& nombre : QDir{m_carpeta.path()}.entryList(QDir::Files, QDir::Name)) {
+            QFile fichero{ruta(nombre)};
+            EXPECT_TRUE(fichero.open(QIODevice::ReadOnly));
+            todos += nombre + u'=' + QString::fromUtf8(fichero.readAll());
+        }
+        return todos;
+    }
+
+    QTemporaryDir m_carpeta;
+    EscritorFalso m_escritor;
+    std::vector<CuerpoInforme> m_informes;
+};
+
+TEST_F(FicherosSalida, AFolderThatIsNotThereIsToldBeforehandAndAfterwards)
+{
+    EXPECT_THROW(compruebaQueSePuedeEscribir(ruta(u"nada/a.json"_s)), ErrorDeSalida);
+    informe({}, "a");
+    EXPECT_THROW(escribe(u"nada/a.json"_s), ErrorDeSalida);
+    EXPECT_EQ(ficheros(), QStringList{});
+}
+
+TEST_F(FicherosSalida, AskingWhetherAFileCanBeWrittenLeavesNothing)
+{
+    compruebaQueSePuedeEscribir(ruta(u"a.json"_s));
+    EXPECT_EQ(ficheros(), QStringList{});
+}
+
+TEST_F(FicherosSalida, AllReportsAreOneDocumentOnTheOutput)
+{
+    informe(u"Sur"_s, "a");
+    informe(u"Centro"_s, "b");
+    QBuffer salida;
+    salida.open(QIODevice::WriteOnly);
+    escribeEn(salida, m_escritor, m_informes);
+    EXPECT_EQ(salida.data(), "<a|b>");
+}
+
+TEST_F(FicherosSalida, AnOutputThatTakesNothingIsAnError)
+{
+    informe({}, "a");
+    QBuffer cerrado;
+    EXPECT_THROW(escribeEn(cerrado, m_escritor, m_informes), ErrorDeSalida);
+}
+
+TEST_F(FicherosSalida, OneReportHasTheNameThatWasGivenAndReplacesWhatLayThere)
+{
+    informe(u"Sur"_s, "a");
+    escribe(u"caja.json"_s);
+    EXPECT_EQ(ficheros(), QStringList{u"caja.json=<a>"_s});
+    m_informes.clear();
+    informe(u"Sur"_s, "b");
+    escribe(u"caja.json"_s);
+    EXPECT_EQ(ficheros(), QStringList{u"caja.json=<b>"_s});
+}
+
+TEST_F(FicherosSalida, SeveralHaveTheStoresNameInFrontOfTheEnding)
+{
+    informe(u"Peñíscola"_s, "a");
+    informe(u"San Juan"_s, "b");
+    escribe(u"caja.dia.json"_s);
+    EXPECT_EQ(ficheros(), (QStringList{u"caja.dia-Peñíscola.json=<a>"_s, u"caja.dia-San Juan.json=<b>"_s}));
+}
+
+TEST_F(FicherosSalida, StoresWhoseNamesMeetInAFilesNameStayApart)
+{
+    informe(u"A/B"_s, "1");
+    informe(u"A:B"_s, "2");
+    informe(u"a_b"_s, "3");
+    escribe(u"caja"_s);
+    EXPECT_EQ(ficheros(), (QStringList{u"caja-A_B=<1>"_s, u"caja-A_B-2=<2>"_s, u"caja-a_b-3=<3>"_s}));
+}
+
+TEST_F(FicherosSalida, WhenOneOfSeveralCannotBeWrittenNoneIs)
+{
+    informe(u"Sur"_s, "a");
+    informe(u"Centro"_s, "b");
+    ASSERT_TRUE(QDir{m_carpeta.path()}.mkdir(u"caja-Centro.json"_s));
+    EXPECT_THROW(escribe(u"caja.json"_s), ErrorDeSalida);
+    EXPECT_EQ(ficheros(), QStringList{});
+}
+
+} // namespace
+} // namespace kestrane::lote

@@ -1,0 +1,227 @@
+#include "lote/informe_de_lote.h"
+
+#include "apoyo/tienda_de_prueba.h"
+#include "lote/error_de_salida.h"
+#include "lote/estado_de_salida.h"
+#include "lote/peticion_imposible.h"
+#include "pipeline/catalogue/catalogo.h"
+#include "pipeline/informe_nuevo.h"
+#include "platform/runtime/error_ejecucion.h"
+
+#include <gtest/gtest.h>
+
+#include <QBuffer>
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace kestrane::lote {
+namespace {
+
+using namespace Qt::StringLiterals;
+using catalogue::FilaCatalogo;
+using prueba::TiendaDePrueba;
+
+/// One row with the period, but none for the store "Vacía".
+void construye(Listados& listados)
+{
+    InformeNuevo informe{listados, cabeceras::Completa};
+    if (listados.contexto.TiendaSeleccionada == u"Vacía")
+        return;
+    informe.AddNew();
+    informe.Fields(u"texto1") = listados.contexto.TiendaSeleccionada;
+    informe.Update();
+}
+
+void fallaEnLaSegunda(Listados& listados)
+{
+    if (listados.contexto.TiendaSeleccionada == u"Vacía")
+        throw ErrorEjecucion{ErrorEjecucion::Desbordamiento};
+    construye(listados);
+}
+
+/// A report with a date dialog that loops over the stores.
+FilaCatalogo informe(QStringView control, Constructor constructor)
+{
+    FilaCatalogo fila = *catalogue::busca(control);
+    fila.constructores[0].constructor = constructor;
+    return fila;
+}
+
+class InformeDeLote : public testing::Test
+{
+protected:
+    InformeDeLote()
+    {
+        m_salida.open(QIODevice::WriteOnly);
+        m_errores.open(QIODevice::WriteOnly);
+        m_opciones.hoy = Fecha::deCalendario(2024, 3, 15);
+    }
+
+    void enServidorCon(std::initializer_list<QString> tiendas)
+    {
+        m_tienda.ejecuta(
+            u"insert into opciones (nombre, multitienda, nombretienda, numdecimales) values ('Ñandú', 'S', 'Servidor', 2)"_s);
+        for (const QString& tienda : tiendas)
+            m_tienda.ejecuta(u"insert into multitienda (nombre) values ('%1')"_s.arg(tienda));
+    }
+
+    int ejecuta(const FilaCatalogo& fila)
+    {
+        m_opciones.informe.fila = &fila;
+        m_tienda.tienda().Close();
+        m_tienda.listados().Close();
+        return ejecutaInforme(m_opciones, m_tienda.opciones(), {m_tienda.carpeta(), m_salida, m_errores});
+    }
+
+    /// "store:layout:data:texto1 of the rows" of each report on the output.
+    [[nodiscard]] QStringList informes() const
+    {
+        QStringList todos;
+        for (const QJsonValue& valor : QJsonDocument::fromJson(m_salida.data()).array()) {
+            const QJsonObject objeto = valor.toObject();
+            QStringList filas;
+            for (const QJsonValue& fila : objeto.value(u"informes").toArray())
+                filas += fila.toObject().value(u"texto1").toString();
+            todos += u"%1:%2:%3:%4"_s.arg(objeto.value(u"tienda").toString(), objeto.value(u"layout").toString(),
+                                          objeto.value(u"datos").toBool() ? u"si"_s : u"no"_s, filas.join(u','));
+        }
+        return todos;
+    }
+
+    [[nodiscard]] std::string errores() const { return m_errores.data().toStdString(); }
+
+    TiendaDePrueba m_tienda;
+    QBuffer m_salida;
+    QBuffer m_errores;
+    Opciones m_opciones;
+};
+
+TEST_F(InformeDeLote, AReportThatDoesNotExistYetSaysSoAndIsAnError)
+{
+    EXPECT_EQ(ejecuta(informe(u"cmd_Ventas2", nullptr)), SalidaError);
+    EXPECT_EQ(errores(), "listados-lote: El listado \"Formas de Pago\" todavía no está disponible.\n");
+    EXPECT_EQ(ejecuta(*catalogue::busca(u"Command8")), SalidaError);
+    EXPECT_TRUE(m_errores.data().endsWith("El gráfico \"Por Empleados\" todavía no está disponible.\n"));
+    EXPECT_EQ(m_salida.data(), "");
+}
+
+TEST_F(InformeDeLote, AStoreThatTheServerDoesNotHaveIsAnErrorOfUsage)
+{
+    enServidorCon({u"Sur"_s});
+    m_opciones.informe.tienda = u"Norte"_s;
+    EXPECT_THROW(ejecuta(informe(u"cmd_Ventas2", construye)), PeticionImposible);
+}
+
+TEST_F(InformeDeLote, AnErrorInTheMidstOfTheStoresLeavesNothingOnTheOutput)
+{
+    enServidorCon({u"Sur"_s, u"Vacía"_s});
+    EXPECT_THROW(ejecuta(informe(u"cmd_Ventas2", fallaEnLaSegunda)), ErrorEjecucion);
+    EXPECT_EQ(m_salida.data(), "");
+}
+
+TEST_F(InformeDeLote, AnErrorLeavesNoFile)
+{
+    enServidorCon({u"Sur"_s, u"Vacía"_s});
+    m_opciones.informe.salida = QDir{m_tienda.carpeta()}.filePath(u"caja.json"_s);
+    EXPECT_THROW(ejecuta(informe(u"cmd_Ventas2", fallaEnLaSegunda)), ErrorEjecucion);
+    EXPECT_EQ(QDir{m_tienda.carpeta()}.entryList({u"caja*"_s}), QStringList{});
+}
+
+TEST_F(InformeDeLote, AnOutputThatCannotBeWrittenIsToldBeforeTheWork)
+{
+    m_opciones.informe.salida = m_tienda.carpeta() + u"/nada/caja.json"_s;
+    EXPECT_THROW(ejecuta(informe(u"cmd_Ventas2", fallaEnLaSegunda)), ErrorDeSalida);
+}
+
+TEST_F(InformeDeLote, TheServerWithoutStoresEndsInError9)
+{
+    enServidorCon({});
+    try {
+        static_cast<void>(ejecuta(informe(u"cmd_Ventas2", construye)));
+        FAIL() << "no error";
+    } catch (const ErrorEjecucion& error) {
+        EXPECT_EQ(error.numero(), ErrorEjecucion::IndiceFueraDeIntervalo);
+    }
+}
+
+TEST_F(InformeDeLote, OneObjectForEachStoreInTheirOrderThoughOneHasNoData)
+{
+    enServidorCon({u"Sur"_s, u"Vacía"_s, u"Centro"_s});
+    EXPECT_EQ(ejecuta(informe(u"cmd_Ventas2", construye)), SalidaBien);
+    EXPECT_EQ(informes(), (QStringList{u"Sur:K_formapago.rpt:si:Sur"_s, u"Vacía:K_formapago.rpt:no:"_s,
+                                       u"Centro:K_formapago.rpt:si:Centro"_s}));
+    EXPECT_EQ(errores(), "");
+}
+
+TEST_F(InformeDeLote, AStoreThatWasChosenIsReportedAlone)
+{
+    enServidorCon({u"Sur"_s, u"Centro"_s});
+    m_opciones.informe.tienda = u"centro"_s;
+    EXPECT_EQ(ejecuta(informe(u"cmd_Ventas2", construye)), SalidaBien);
+    EXPECT_EQ(informes(), QStringList{u"Centro:K_formapago.rpt:si:Centro"_s});
+}
+
+TEST_F(InformeDeLote, WithoutDataInEveryReportTheStatusSaysSo)
+{
+    enServidorCon({u"Vacía"_s});
+    EXPECT_EQ(ejecuta(informe(u"cmd_Ventas2", construye)), SalidaSinDatos);
+    EXPECT_EQ(informes(), QStringList{u"Vacía:K_formapago.rpt:no:"_s});
+}
+
+TEST_F(InformeDeLote, SeveralReportsAreAFileEach)
+{
+    enServidorCon({u"Sur"_s, u"Vacía"_s});
+    m_opciones.informe.salida = QDir{m_tienda.carpeta()}.filePath(u"caja.json"_s);
+    EXPECT_EQ(ejecuta(informe(u"cmd_Ventas2", construye)), SalidaBien);
+    EXPECT_EQ(QDir{m_tienda.carpeta()}.entryList({u"caja*"_s}, QDir::Files, QDir::Name),
+              (QStringList{u"caja-Sur.json"_s, u"caja-Vacía.json"_s}));
+    EXPECT_EQ(m_salida.data(), "");
+}
+
+TEST_F(InformeDeLote, ThePeriodIsTodaysUnlessItIsGiven)
+{
+    EXPECT_EQ(ejecuta(informe(u"cmd_Ventas2", construye)), SalidaBien);
+    EXPECT_TRUE(m_salida.data().contains("\"fecha1\":\"2024-03-15T00:00:00\",\"fecha2\":\"2024-03-15T00:00:00\""))
+        << m_salida.data().toStdString();
+}
+
+TEST_F(InformeDeLote, WhereSeveralDaysAreNotAllowedWhatTheDialogWouldHaveSetIsIgnored)
+{
+    m_tienda.ejecuta(u"insert into relaciones_fijas (indice, datoa) values ('PermiteListadoVariosDias', 'NO')"_s);
+    m_opciones.informe.respuestas = {{Respuesta::Desde, *Fecha::deCalendario(2024, 1, 1)}, {Respuesta::Completa, true}};
+    EXPECT_EQ(ejecuta(informe(u"cmd_Caja1", construye)), SalidaBien);
+    EXPECT_TRUE(m_salida.data().contains("\"fecha1\":\"2024-03-15T00:00:00\""));
+    EXPECT_EQ(errores(), "listados-lote: cmd_Caja1 no ofrece --desde, que se ignora.\n"
+                         "listados-lote: cmd_Caja1 no ofrece --completa, que se ignora.\n");
+}
+
+TEST_F(InformeDeLote, DeliveryNotesOutsideRetailHaveAnObjectWithoutALayout)
+{
+    EXPECT_EQ(ejecuta(informe(u"cmdAlbaranes", construye)), SalidaBien);
+    EXPECT_EQ(informes(), QStringList{u"::si:"_s});
+}
+
+TEST_F(InformeDeLote, TheReportsDatabaseOfTheProgramIsLeftAlone)
+{
+    m_tienda.ejecutaListados(u"insert into informes (texto1) values ('del programa')"_s);
+    EXPECT_EQ(ejecuta(informe(u"cmd_Ventas2", construye)), SalidaBien);
+    Recordset filas;
+    filas.Open(u"select texto1 from informes"_s, m_tienda.listados());
+    EXPECT_EQ(filas.RecordCount(), 1);
+    EXPECT_EQ(filas.Fields(u"texto1").texto(), u"del programa"_s);
+}
+
+TEST_F(InformeDeLote, TheListNamesReportsAndChartsAndWhatIsStillMissing)
+{
+    const QByteArray lista = listaDeInformes();
+    EXPECT_EQ(lista.count('\n'), 58 + 7); // reports and charts
+    EXPECT_TRUE(lista.startsWith("cmd_Caja1\tCaja Diaria General\tinforme\t"));
+    EXPECT_TRUE(lista.contains("\ncmd_Marcas\tMarcas\tinforme\n"));
+    EXPECT_TRUE(lista.contains("\nCommand8\tPor Empleados\tgrafico\ttodavía no disponible\n"));
+    EXPECT_FALSE(lista.contains("cmd_Salir"));
+}
+
+} // namespace
+} // namespace kestrane::lote

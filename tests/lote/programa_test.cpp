@@ -1,0 +1,147 @@
+#include "lote/programa.h"
+
+#include "apoyo/tienda_de_prueba.h"
+
+#include <gtest/gtest.h>
+
+#include <QBuffer>
+#include <QDir>
+#include <QFile>
+
+namespace kestrane::lote {
+namespace {
+
+using namespace Qt::StringLiterals;
+using prueba::TiendaDePrueba;
+
+class Programa : public testing::Test
+{
+protected:
+    Programa()
+    {
+        m_tienda.ejecuta(
+            {u"insert into opciones (nombre, direccion, numdecimales) values ('Ñandú', 'Mayor, 1', 2)"_s,
+             u"insert into seccion (codigo, codigocliente, nombre) values (2, 'B', 'Color')"_s,
+             u"insert into seccion (codigo, nombre) values (1, 'Corte')"_s,
+             u"insert into servicios (codigo, nombre, seccion, precio, mostrarencaja) values (7, 'Lavar', 1, 12.5, 0)"_s});
+        m_tienda.tienda().Close();
+    }
+
+    int programa(const QStringList& argumentos, const QString& carpeta = {})
+    {
+        QBuffer salida{&m_salida};
+        QBuffer errores{&m_errores};
+        salida.open(QIODevice::WriteOnly);
+        errores.open(QIODevice::WriteOnly);
+        return ejecutaPrograma(QStringList{u"listados-lote"_s, u"--datos"_s, carpeta.isEmpty() ? m_tienda.carpeta() : carpeta,
+                                           u"--regional"_s, u"es_ES"_s} +
+                                   argumentos,
+                               m_tienda.carpeta(), salida, errores);
+    }
+
+    TiendaDePrueba m_tienda;
+    QByteArray m_salida;
+    QByteArray m_errores;
+};
+
+TEST_F(Programa, ACommandLineThatMakesNoSenseIsOneSentenceAndStatusTwo)
+{
+    EXPECT_EQ(programa({u"cmd_Nada"_s}), SalidaUso);
+    EXPECT_EQ(m_errores,
+              "listados-lote: No existe el listado \"cmd_Nada\"; con --lista se ven todos. Con --ayuda se ven las opciones.\n");
+    EXPECT_EQ(m_salida, "");
+}
+
+TEST_F(Programa, AFolderWithoutDatabasesIsOneSentenceAndStatusOne)
+{
+    EXPECT_EQ(programa({u"cmd_Marcas"_s}, m_tienda.carpeta() + u"/nada"_s), SalidaError);
+    EXPECT_TRUE(m_errores.startsWith("listados-lote: error -2147467259: ")) << m_errores.toStdString();
+    EXPECT_EQ(m_errores.count('\n'), 1) << m_errores.toStdString();
+    EXPECT_EQ(m_salida, "");
+}
+
+TEST_F(Programa, ATableThatIsMissingIsTheDatabasesErrorAndStatusOne)
+{
+    m_tienda.quitaTabla(u"marcas"_s);
+    EXPECT_EQ(programa({u"cmd_Marcas"_s}), SalidaError);
+    EXPECT_TRUE(m_errores.startsWith("listados-lote: error -2147217900: ")) << m_errores.toStdString();
+    EXPECT_TRUE(m_errores.toLower().contains("marcas")) << m_errores.toStdString();
+    EXPECT_EQ(m_salida, "");
+}
+
+TEST_F(Programa, AnAnswerThatTheDialogRefusesIsStatusTwo)
+{
+    EXPECT_EQ(programa({u"cmd_Generales4"_s, u"--orden"_s, u"Precio"_s}), SalidaUso);
+    EXPECT_EQ(m_errores, "listados-lote: cmd_Generales4 no se ordena por \"Precio\"; puede ser Nombre, Seccion, Codigo.\n");
+    EXPECT_EQ(m_salida, "");
+}
+
+TEST_F(Programa, AnOutputThatCannotBeWrittenIsStatusOne)
+{
+    EXPECT_EQ(programa({u"cmd_Generales8"_s, u"--salida"_s, m_tienda.carpeta() + u"/nada/a.json"_s}), SalidaError);
+    EXPECT_TRUE(m_errores.startsWith("listados-lote: no se puede escribir el resultado (")) << m_errores.toStdString();
+    EXPECT_EQ(m_errores.count('\n'), 1);
+}
+
+TEST_F(Programa, AReportIsAnArrayOfOneObject)
+{
+    EXPECT_EQ(programa({u"cmd_Generales8"_s}), SalidaBien);
+    EXPECT_EQ(m_salida.toStdString(),
+              R"([{"control":"cmd_Generales8","tienda":"","layout":"K_Secciones.rpt","impresora":"","datos":true,)"
+              "\n \"informes\":[{\"texto1\":\"B\",\"texto2\":\"Color\",\"texto34\":\"Mayor, 1\",\"texto35\":\"Ñandú\"},\n"
+              "  {\"texto2\":\"Corte\",\"texto34\":\"Mayor, 1\",\"texto35\":\"Ñandú\"}],\n"
+              " \"subinformes\":[]}]\n");
+    EXPECT_EQ(m_errores, "");
+}
+
+TEST_F(Programa, WithoutDataTheArrayIsWrittenAllTheSame)
+{
+    EXPECT_EQ(programa({u"cmd_Marcas"_s}), SalidaSinDatos);
+    EXPECT_TRUE(
+        m_salida.startsWith(R"([{"control":"cmd_Marcas","tienda":"","layout":"TC_Marcas.rpt","impresora":"","datos":false,)"));
+}
+
+TEST_F(Programa, AnOptionThatNoDialogOffersIsNamedAndIgnored)
+{
+    EXPECT_EQ(programa({u"cmd_Generales8"_s, u"--desde"_s, u"2024-01-01"_s}), SalidaBien);
+    EXPECT_EQ(m_errores, "listados-lote: cmd_Generales8 no ofrece --desde, que se ignora.\n");
+}
+
+TEST_F(Programa, TheOrderOfTheServicesIsAnAnswer)
+{
+    EXPECT_EQ(programa({u"cmd_Generales4"_s, u"--orden"_s, u"Codigo"_s, u"--formato"_s, u"csv"_s}), SalidaBien);
+    EXPECT_TRUE(m_salida.contains("\r\n\"\";informes;;Lavar;")) << m_salida.toStdString();
+    EXPECT_TRUE(m_salida.contains(";12,5;"));
+}
+
+TEST_F(Programa, TheReportsDatabaseOfTheRunMayBeKept)
+{
+    const QString carpeta = QDir{m_tienda.carpeta()}.filePath(u"copia"_s);
+    EXPECT_EQ(programa({u"cmd_Generales8"_s, u"--listados"_s, carpeta}), SalidaBien);
+    m_salida.clear();
+    EXPECT_EQ(programa({u"--sql"_s, u"select count(*) as n from informes"_s, u"--conexion"_s, u"listados"_s}, carpeta), SalidaBien);
+    EXPECT_TRUE(m_salida.contains("\"filas\":[[2]]")) << m_salida.toStdString();
+}
+
+TEST_F(Programa, AFileIsWrittenWholeAndTheOutputStaysEmpty)
+{
+    const QString nombre = QDir{m_tienda.carpeta()}.filePath(u"secciones.json"_s);
+    EXPECT_EQ(programa({u"cmd_Generales8"_s, u"--salida"_s, nombre}), SalidaBien);
+    EXPECT_EQ(m_salida, "");
+    QFile fichero{nombre};
+    ASSERT_TRUE(fichero.open(QIODevice::ReadOnly));
+    const QByteArray escrito = fichero.readAll();
+    EXPECT_TRUE(escrito.startsWith("[{\"control\":\"cmd_Generales8\"") && escrito.endsWith("}]\n"));
+}
+
+TEST_F(Programa, HelpAndListNeedNoDatabase)
+{
+    EXPECT_EQ(programa({u"--ayuda"_s}, u"nada"_s), SalidaBien);
+    EXPECT_TRUE(m_salida.startsWith("Uso: listados-lote --lista"));
+    m_salida.clear();
+    EXPECT_EQ(programa({u"--lista"_s}, u"nada"_s), SalidaBien);
+    EXPECT_TRUE(m_salida.startsWith("cmd_Caja1\t"));
+}
+
+} // namespace
+} // namespace kestrane::lote

@@ -1,0 +1,66 @@
+#include "pipeline/catalogue/pasos.h"
+
+#include "platform/runtime/error_ejecucion.h"
+
+#include <gtest/gtest.h>
+
+namespace kestrane::catalogue {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class Pasos : public testing::Test
+{
+protected:
+    bool toma(const QString& codigo)
+    {
+        m_contexto.ClienteBuscado = codigo;
+        return tomaClienteBuscado(m_contexto);
+    }
+
+    EntornoDatos m_entorno{{}};
+    ContextoEjecucion m_contexto{m_entorno};
+};
+
+TEST_F(Pasos, NoClientIsAnEmptyTextOrMinusOne)
+{
+    EXPECT_FALSE(toma({}));
+    EXPECT_FALSE(toma(u"-1"_s));
+    EXPECT_EQ(m_contexto.filtros.cliente, -1);
+}
+
+TEST_F(Pasos, WhatIsNoNumberEndsTheRun)
+{
+    EXPECT_THROW(toma(u"Ana"_s), ErrorEjecucion);
+}
+
+TEST_F(Pasos, TheClientThatWasFoundBecomesTheFilters)
+{
+    EXPECT_TRUE(toma(u"17"_s));
+    EXPECT_EQ(m_contexto.filtros.cliente, 17);
+    EXPECT_TRUE(toma(u"0"_s));
+    EXPECT_EQ(m_contexto.filtros.cliente, 0);
+}
+
+TEST_F(Pasos, EachButtonSetsItsOwn)
+{
+    buscaClientes(m_contexto);
+    EXPECT_EQ(m_contexto.ModoBusqueda, u"Cl"_s);
+    prepararCumpleanios(m_contexto);
+    EXPECT_EQ(m_contexto.filtros.columnaOrden, u"nacimiento"_s);
+    EXPECT_TRUE(m_contexto.filtros.cumpleanios);
+    prepararClientes(m_contexto);
+    EXPECT_FALSE(m_contexto.filtros.cumpleanios);
+    prepararDineroEnDeposito(m_contexto);
+    EXPECT_EQ(m_contexto.filtros.titulo, u"Clientes con Dinero en Deposito"_s);
+    prepararBajoMinimos(m_contexto);
+    EXPECT_TRUE(m_contexto.SoloBajoMinimos);
+    prepararProductos(m_contexto);
+    EXPECT_FALSE(m_contexto.SoloBajoMinimos);
+    m_contexto.ReimprimirFactura = true;
+    prepararReimpresion(m_contexto);
+    EXPECT_FALSE(m_contexto.ReimprimirFactura);
+}
+
+} // namespace
+} // namespace kestrane::catalogue

@@ -1,0 +1,82 @@
+#include "platform/database/motor_contado.h"
+
+#include "platform/database/error_motor.h"
+#include "platform/database/sqlite/sqlite_motor.h"
+
+namespace kestrane::database {
+
+namespace {
+
+class SentenciaContada final : public SentenciaMotor
+{
+public:
+    SentenciaContada(std::unique_ptr<SentenciaMotor> propia, Pasos& pasos) : m_propia{std::move(propia)}, m_pasos{pasos} {}
+
+    void ejecuta(std::span<const Ligado> parametros) override
+    {
+        ++m_pasos.ejecutadas;
+        m_propia->ejecuta(parametros);
+    }
+    bool siguiente(AlmacenFilas& destino) override
+    {
+        ++m_pasos.filas;
+        return m_propia->siguiente(destino);
+    }
+    qint64 afectadas() const override { return m_propia->afectadas(); }
+    void reinicia() noexcept override
+    {
+        ++m_pasos.reinicios;
+        m_propia->reinicia();
+    }
+
+private:
+    std::unique_ptr<SentenciaMotor> m_propia;
+    Pasos& m_pasos;
+};
+
+class MotorContado final : public MotorBase
+{
+public:
+    MotorContado(const QString& fichero, Pasos& pasos) : m_propio{{fichero}}, m_pasos{pasos}, m_numero{++pasos.abiertos} {}
+
+    jet::Motor clase() const override { return m_propio.clase(); }
+    jet::Catalogo& catalogo() override { return m_propio.catalogo(); }
+    std::unique_ptr<SentenciaMotor> prepara(const QByteArray& sql, std::span<const jet::TipoColumna> parametros,
+                                            std::span<const jet::TipoColumna> resultado) override
+    {
+        ++m_pasos.preparadas;
+        return std::make_unique<SentenciaContada>(m_propio.prepara(sql, parametros, resultado), m_pasos);
+    }
+    void insertaFilas(const jet::Tabla& tabla, std::span<const int> columnas, AlmacenFilas& filas) override
+    {
+        if (perdida())
+            throw ErrorMotor(ErrorMotor::Categoria::ConexionPerdida, ErrorEjecucion::SentenciaRechazada,
+                             QStringLiteral("Perdida."));
+        if (m_pasos.fallan)
+            throw ErrorMotor(ErrorMotor::Categoria::SinSitio, ErrorEjecucion::SentenciaRechazada,
+                             QStringLiteral("No queda sitio."));
+        ++m_pasos.envios;
+        m_pasos.filasEnviadas += static_cast<int>(filas.filas());
+        m_propio.insertaFilas(tabla, columnas, filas);
+    }
+    bool perdida() const override { return m_numero <= m_pasos.cortados; }
+
+private:
+    sqlite::SqliteMotor m_propio;
+    Pasos& m_pasos;
+    int m_numero;
+};
+
+} // namespace
+
+OpcionesDatos opcionesContadas(const QString& carpeta, Pasos& pasos)
+{
+    OpcionesDatos opciones;
+    opciones.carpeta = carpeta;
+    opciones.abreMotor = [carpeta, &pasos](const DestinoConexion& destino) {
+        return std::make_unique<MotorContado>(carpeta + u'/' + destino.dsn + QStringLiteral(".db"), pasos);
+    };
+    return opciones;
+}
+
+} // namespace kestrane::database

@@ -1,0 +1,46 @@
+#include "platform/database/sentencias_fila.h"
+
+#include <gtest/gtest.h>
+
+namespace kestrane::database {
+namespace {
+
+using namespace Qt::StringLiterals;
+using jet::Motor;
+using jet::TipoColumna;
+
+jet::Tabla tabla()
+{
+    jet::Tabla informes;
+    informes.nombre = u"informes"_s;
+    informes.columnas = {{u"texto1"_s, TipoColumna::Texto, 255, true}, {u"raro\"`"_s, TipoColumna::Doble, 0, true}};
+    informes.identidad = u"rowid"_s;
+    return informes;
+}
+
+TEST(SentenciasFila, NamesAreQuotedByTheEnginesRules)
+{
+    const int columnas[] = {1, 0};
+    EXPECT_EQ(sqlInsercion(Motor::Sqlite, tabla(), columnas), "insert into \"informes\" (\"raro\"\"`\", \"texto1\") values (?, ?)");
+    EXPECT_EQ(sqlInsercion(Motor::MariaDb, tabla(), columnas), "insert into `informes` (`raro\"```, `texto1`) values (?, ?)");
+    EXPECT_EQ(sqlModificacion(Motor::PostgreSql, tabla(), columnas),
+              "update \"informes\" set \"raro\"\"`\" = ?, \"texto1\" = ? where \"rowid\" = ?");
+    EXPECT_EQ(sqlBorrado(Motor::Sqlite, tabla()), "delete from \"informes\" where \"rowid\" = ?");
+}
+
+TEST(SentenciasFila, ARowWithoutColumnsIsOneOfDefaults)
+{
+    EXPECT_EQ(sqlInsercion(Motor::Sqlite, tabla(), {}), "insert into \"informes\" default values");
+    EXPECT_EQ(sqlInsercion(Motor::MariaDb, tabla(), {}), "insert into `informes` () values ()");
+}
+
+TEST(SentenciasFila, TheIdentityHasTheTypeOfItsColumnOrIsANumber)
+{
+    jet::Tabla porClave = tabla();
+    EXPECT_EQ(tipoDeIdentidad(porClave), TipoColumna::Entero32);
+    porClave.identidad = u"texto1"_s;
+    EXPECT_EQ(tipoDeIdentidad(porClave), TipoColumna::Texto);
+}
+
+} // namespace
+} // namespace kestrane::database

@@ -1,0 +1,89 @@
+#include "platform/jet/traduce.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrane::jet {
+namespace {
+
+void condicion(const QString& jet, const QString& esperada)
+{
+    EXPECT_EQ(condicionDe(jet, Motor::MariaDb), esperada);
+}
+
+void expresion(const QString& jet, const QString& esperada)
+{
+    EXPECT_EQ(expresionDe(jet, Motor::MariaDb), esperada);
+}
+
+TEST(RendererMariadbTest, NamesStandBetweenBackQuotesAndMarksAreBare)
+{
+    condicion(u"codigo = 5 and nombre = 'Ana'"_s, u"t0.`codigo` = ? AND t0.`nombre` = ?"_s);
+}
+
+TEST(RendererMariadbTest, TheCollationStandsOnlyWhereNoColumnBringsIt)
+{
+    condicion(u"'a' = 'A'"_s, u"? COLLATE utf8mb4_uca1400_spanish_nopad_as_ci = ?"_s);
+    condicion(u"codigo & 'x' = '7X'"_s,
+              u"(CONCAT(IFNULL(CAST(t0.`codigo` AS CHAR), ''), ?)) COLLATE utf8mb4_uca1400_spanish_nopad_as_ci = ?"_s);
+}
+
+TEST(RendererMariadbTest, LikeEscapesByACharacterThatNoTextHolds)
+{
+    condicion(u"nombre like '%a'"_s, u"t0.`nombre` LIKE ? ESCAPE CHAR(1)"_s);
+    condicion(u"nombre not like '%a'"_s, u"t0.`nombre` NOT LIKE ? ESCAPE CHAR(1)"_s);
+    condicion(u"codigo like '7%'"_s,
+              u"CAST(t0.`codigo` AS CHAR) COLLATE utf8mb4_uca1400_spanish_nopad_as_ci LIKE ? ESCAPE CHAR(1)"_s);
+}
+
+TEST(RendererMariadbTest, ADivisionByZeroIsAnErrorAndNoNull)
+{
+    expresion(u"total / pago"_s, u"IF(t0.`pago` = 0, POW(0, -1), CAST(t0.`total` AS DOUBLE) / CAST(t0.`pago` AS DOUBLE))"_s);
+    expresion(u"total \\ pago"_s,
+              u"IF(t0.`pago` = 0, POW(0, -1), CAST(ROUND(t0.`total`) AS SIGNED) DIV CAST(ROUND(t0.`pago`) AS SIGNED))"_s);
+    expresion(u"total mod 2"_s, u"IF(? = 0, POW(0, -1), CAST(ROUND(t0.`total`) AS SIGNED) MOD CAST(ROUND(?) AS SIGNED))"_s);
+}
+
+TEST(RendererMariadbTest, ValuesAsTexts)
+{
+    expresion(u"total & ''"_s, u"CONCAT(IFNULL(REPLACE(TRIM(TRAILING '.' FROM TRIM(TRAILING '0' FROM CAST(CAST(t0.`total` AS "
+                               "DECIMAL(40, 10)) AS CHAR))), '.', ','), ''), ?)"_s);
+    expresion(u"fecha & ''"_s,
+              u"CONCAT(IFNULL(DATE_FORMAT(t0.`fecha`, CASE WHEN DATE(t0.`fecha`) = '1899-12-30' THEN '%k:%i:%s' WHEN "
+              "TIME(t0.`fecha`) = '00:00:00' THEN '%d/%m/%Y' ELSE '%d/%m/%Y %k:%i:%s' END), ''), ?)"_s);
+}
+
+TEST(RendererMariadbTest, PartsOfDatesAndConditionsAsValues)
+{
+    expresion(u"year(fecha) + month(fecha) + day(fecha) + hour(hora)"_s,
+              u"YEAR(t0.`fecha`) + MONTH(t0.`fecha`) + DAY(t0.`fecha`) + HOUR(t0.`hora`)"_s);
+    expresion(u"pago = 1"_s, u"-(t0.`pago` = ?)"_s);
+}
+
+TEST(RendererMariadbTest, ALimitedSubqueryStandsInsideAnother)
+{
+    condicion(
+        u"codigo in (select top 2 cliente from ventas order by total)"_s,
+        u"t0.`codigo` IN (SELECT * FROM (SELECT t1.`cliente` FROM `ventas` AS t1 ORDER BY t1.`total`, t1.`orden_` LIMIT ?) AS "
+        "limitada)"_s);
+    condicion(u"codigo in (select cliente from ventas)"_s, u"t0.`codigo` IN (SELECT t1.`cliente` FROM `ventas` AS t1)"_s);
+}
+
+TEST(RendererMariadbTest, Aggregates)
+{
+    EXPECT_EQ(sqlDe(u"select sum(pago), avg(pago), count(*) from ventas"_s, Motor::MariaDb),
+              u"SELECT SUM(CAST(t0.`pago` AS DOUBLE)), AVG(CAST(t0.`pago` AS DOUBLE)), COUNT(*) FROM `ventas` AS t0"_s);
+    EXPECT_EQ(sqlDe(u"select tienda from ventas group by tienda"_s, Motor::MariaDb),
+              u"SELECT SUBSTR(MIN(CONCAT(LPAD(t0.`orden_`, 20, '0'), t0.`tienda`)), 21) FROM `ventas` AS t0 "
+              "GROUP BY t0.`tienda` ORDER BY t0.`tienda`"_s);
+}
+
+TEST(RendererMariadbTest, NullsComeFirstByThemselves)
+{
+    EXPECT_EQ(sqlDe(u"select nombre from clientes order by nacimiento, nombre desc"_s, Motor::MariaDb).section(u" ORDER BY "_s, 1),
+              u"t0.`nacimiento`, t0.`nombre` DESC, t0.`orden_`"_s);
+}
+
+} // namespace
+} // namespace kestrane::jet
