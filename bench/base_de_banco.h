@@ -18,6 +18,7 @@ public:
 
     BaseDeBanco();
 
+    [[nodiscard]] QString carpeta() const { return m_carpeta.path(); }
     /// The bare program's own connections, opened on the same files.
     [[nodiscard]] sqlite3* tiendaDesnuda() const { return m_tienda.get(); }
     [[nodiscard]] sqlite3* listadosDesnuda() const { return m_listados.get(); }
