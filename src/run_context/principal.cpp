@@ -33,6 +33,12 @@ public:
     [[nodiscard]] bool logico(QStringView campo) { return aLogico(valor(campo), m_regional); }
     [[nodiscard]] qint16 entero16(QStringView campo) { return aEntero16(valor(campo), m_regional); }
     [[nodiscard]] qint32 entero32(QStringView campo) { return aEntero32(valor(campo), m_regional); }
+    /// Null is `siNulo`.
+    [[nodiscard]] Fecha fecha(QStringView campo, Fecha siNulo)
+    {
+        const Valor suyo = valor(campo);
+        return suyo.esNulo() ? siNulo : aFecha(suyo, m_regional);
+    }
 
 private:
     const ConfiguracionRegional& m_regional;
@@ -96,14 +102,10 @@ void Principal::Inicializa()
 
 QString Principal::LeerList1() const
 {
-    EntornoDatos& entorno = m_contexto.ConexionListados.entorno();
-    Conexion propia{entorno};
+    Conexion propia{m_contexto.ConexionListados.entorno()};
     propia.ConnectionString(u"dsn=ListKestrane"_s);
     propia.Open();
-    Recordset filas;
-    filas.Open(u"Select list1 from listadostemporal"_s, propia);
-    QString list1 = filas.RecordCount() > 0 ? aTexto(filas.Fields(0), entorno.regional()) : QString{};
-    filas.Close();
+    QString list1 = PrimeraFila{u"Select list1 from listadostemporal"_s, propia}.textoSiHay(u"list1");
     propia.Close();
     return list1;
 }
@@ -142,10 +144,8 @@ void Principal::LeerMigracionVentas()
 void Principal::LeerFechaMigracionVentas()
 {
     PrimeraFila fila{u"Select fecha from migraciontablas where tabla = 'Ventas' and estado =-1"_s, m_contexto.ConexionTienda};
-    if (!fila.hay())
-        return;
-    const Valor fecha = fila.valor(u"fecha");
-    m_contexto.FechaMigracionVentas = fecha.esNulo() ? m_reloj.hoy() : fecha.fecha();
+    if (fila.hay())
+        m_contexto.FechaMigracionVentas = fila.fecha(u"fecha", m_reloj.hoy());
 }
 
 void Principal::LeerTerminal()

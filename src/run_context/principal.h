@@ -22,19 +22,25 @@ public:
         EnMarcha,
     };
 
-    /// `contexto.CarpetaPrograma` is set before the start. All four outlive the object.
+    /// `contexto.CarpetaPrograma` is set before the start. `preferencias` is the one object of the run, which the menu goes on
+    /// with: in a shop that has no table for them it alone knows the changes. All four outlive the object.
     Principal(ContextoEjecucion& contexto, ConectorTienda& conector, PreferenciasTerminal& preferencias, const Reloj& reloj);
 
-    /// The whole start. `muestraMenu` shows the main form and comes last.
+    /// The whole start, when `copia` finds no other one. `muestraMenu` shows the main form and comes last.
     [[nodiscard]] Inicio Main(CopiaUnica& copia, const std::function<void()>& muestraMenu);
 
-    /// The two steps of the start that a program without windows takes too, in this order.
+    // The two steps of the start that a program without windows takes too, in this order.
+
+    /// Opens the shop database and the reports database. Error -2147467259 when one cannot be opened.
     void AbreConexiones();
+    /// Fills the values that are read at the start, in a run context that holds nothing but its open connections. Error -2147217900
+    /// for a table that is missing, 94 for a null number.
     void Inicializa();
 
-    /// A fresh reading of the list of this copy, on a connection of its own.
+    /// The first row's text of `listadostemporal`, "" when there is none: a fresh reading, on a connection of its own.
     [[nodiscard]] QString ObtenerList1() const { return LeerList1(); }
 
+private:
     // The lookups of `Inicializa`, each a statement of its own.
     [[nodiscard]] QString LeerList1() const;
     void LeerApariencia();
@@ -50,8 +56,6 @@ public:
     void CargarListaTiendas();
     void LeerPermiteListadoVariosDias();
     void LeerModuloFacturas();
-
-private:
     [[nodiscard]] QString impresora(QChar tipo);
 
     ContextoEjecucion& m_contexto;

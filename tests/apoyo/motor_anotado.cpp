@@ -22,16 +22,24 @@ QString textoDe(const Ligado& ligado)
     return aTexto(std::visit(comoValor, ligado), ConfiguracionRegional::espania());
 }
 
-/// What the renderer for SQLite adds to every statement: names for the tables, the collation, the rows' own order.
+/// What the renderers add to every statement beside quotes: names for the tables, the collation, the rows' own order.
 const QRegularExpression& anadidos()
 {
-    static const QRegularExpression expresion{u"(,| ORDER BY) t\\d+\\.rowid\\b|\\bt\\d+\\.| AS t\\d+\\b| COLLATE ESPANOL"_s};
+    static const QRegularExpression expresion{
+        u"(,| ORDER BY) (t\\d+\\.)?(rowid|orden_)\\b|\\bt\\d+\\.| AS t\\d+\\b| COLLATE ESPANOL"_s};
+    return expresion;
+}
+
+/// A value whose type the renderer names.
+const QRegularExpression& conTipo()
+{
+    static const QRegularExpression expresion{u"CAST\\(\\? AS [a-z ]+\\)"_s};
     return expresion;
 }
 
 QString conValores(const QByteArray& sql, std::span<const Ligado> valores)
 {
-    QString texto = QString::fromUtf8(sql).remove(u'"').remove(anadidos()).simplified();
+    QString texto = QString::fromUtf8(sql).remove(u'"').remove(u'`').remove(anadidos()).replace(conTipo(), u"?"_s).simplified();
     for (const Ligado& valor : valores)
         texto.replace(texto.indexOf(u'?'), 1, textoDe(valor));
     return texto;

@@ -55,6 +55,7 @@ TEST_F(Condiciones, TotalsOfAllEmployeesAreTotalsWithoutAnEmployee)
 {
     EXPECT_FALSE(totalizado(m_contexto) || totalizadoDeTodos(m_contexto));
     m_contexto.filtros.totalizado = true;
+    m_contexto.filtros.empleado = -1;
     EXPECT_TRUE(totalizado(m_contexto) && totalizadoDeTodos(m_contexto));
     m_contexto.filtros.empleado = 0;
     EXPECT_TRUE(totalizado(m_contexto));

@@ -26,7 +26,7 @@ TEST_F(Pasos, NoClientIsAnEmptyTextOrMinusOne)
 {
     EXPECT_FALSE(toma({}));
     EXPECT_FALSE(toma(u"-1"_s));
-    EXPECT_EQ(m_contexto.filtros.cliente, -1);
+    EXPECT_EQ(m_contexto.filtros.cliente, 0);
 }
 
 TEST_F(Pasos, WhatIsNoNumberEndsTheRun)
