@@ -21,6 +21,14 @@ QString literal(QString texto)
     return u'\'' + texto.replace(u"'"_s, u"''"_s) + u'\'';
 }
 
+/// The name under which a terminal's row stands: what the column holds of it, no letter cut in two.
+QString nombreDeFila(const QString& identificador)
+{
+    constexpr qsizetype AnchoColumna = 50;
+    const bool parte = identificador.size() > AnchoColumna && identificador.at(AnchoColumna).isLowSurrogate();
+    return identificador.left(parte ? AnchoColumna - 1 : AnchoColumna);
+}
+
 /// The first of `valores` past `actual`, or the first of all.
 template<class Valores>
 auto siguiente(const Valores& valores, qint32 actual)
@@ -31,6 +39,7 @@ auto siguiente(const Valores& valores, qint32 actual)
 
 TamanoVentana siguienteTamano(double ancho)
 {
+    static_assert(Tamanos.size() > 1, "a step must change the size");
     for (const TamanoVentana& uno : Tamanos) {
         if (uno.ancho > ancho)
             return uno;
@@ -66,7 +75,7 @@ PreferenciasEnTabla::PreferenciasEnTabla() : PreferenciasEnTabla{QSysInfo::machi
 
 QString PreferenciasEnTabla::condicion() const
 {
-    return u" where terminal = "_s + literal(m_identificador);
+    return u" where terminal = "_s + literal(nombreDeFila(m_identificador));
 }
 
 Apariencia PreferenciasEnTabla::lee(Conexion& conexion) const
@@ -92,7 +101,8 @@ void PreferenciasEnTabla::guarda(Conexion& conexion, const Apariencia& aparienci
         return;
     }
     if (!tieneFila(conexion))
-        conexion.Execute(u"Insert into preferencias_terminal (terminal) values ("_s + literal(m_identificador) + u')');
+        conexion.Execute(u"Insert into preferencias_terminal (terminal) values ("_s + literal(nombreDeFila(m_identificador)) +
+                         u')');
     const ConfiguracionRegional& regional = conexion.entorno().regional();
     conexion.Execute(u"Update preferencias_terminal set tema = %1, letra = %2, ancho = %3, alto = %4"_s.arg(
                          QString::number(apariencia.tema), QString::number(apariencia.letra),
@@ -138,10 +148,9 @@ bool PreferenciasEnTabla::SiguienteTamano(Conexion& conexion, double& ancho, dou
     apariencia.ancho = nuevo.ancho;
     apariencia.alto = nuevo.alto;
     guarda(conexion, apariencia);
-    const bool cambia = nuevo != TamanoVentana{ancho, alto};
     ancho = nuevo.ancho;
     alto = nuevo.alto;
-    return cambia;
+    return true;
 }
 
 double PreferenciasEnTabla::DarAlto(Conexion& conexion)

@@ -6,7 +6,8 @@
 
 namespace kestrane {
 
-/// The terminal's identity and the appearance that is stored for it, given an open connection to the shop.
+/// The terminal's identity and the appearance that is stored for it, given an open connection to the shop. One object serves a
+/// whole run: what the menu changes is what it reads again.
 class PreferenciasTerminal
 {
 public:

@@ -4,11 +4,14 @@
 
 #include <array>
 #include <csignal>
+#include <fcntl.h>
 #include <functional>
 #include <gtest/gtest.h>
+#include <optional>
 #include <stdexcept>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <utility>
 
 namespace kestrane {
 namespace {
@@ -21,29 +24,56 @@ QString nombrePropio()
     return u"kestrane-prueba-%1"_s.arg(::getpid());
 }
 
-/// A process beside this one that does `trabajo`, says so, and then waits for a signal.
+/// Both ends of a pipe, which programs that are started do not inherit.
+struct Tuberia
+{
+    Tuberia()
+    {
+        std::array<int, 2> extremos{};
+        if (::pipe2(extremos.data(), O_CLOEXEC) != 0)
+            throw std::runtime_error{"pipe2"};
+        salida = extremos[0];
+        entrada = extremos[1];
+    }
+    ~Tuberia()
+    {
+        ::close(salida);
+        cierraEntrada();
+    }
+    Tuberia(const Tuberia&) = delete;
+    Tuberia& operator=(const Tuberia&) = delete;
+
+    void cierraEntrada() { ::close(std::exchange(entrada, -1)); }
+    /// The next byte; nothing when the last process that could write has closed its end.
+    [[nodiscard]] std::optional<char> lee() const
+    {
+        char byte = 0;
+        return ::read(salida, &byte, 1) == 1 ? std::optional{byte} : std::nullopt;
+    }
+
+    int salida = -1;
+    int entrada = -1;
+};
+
+/// A process beside this one, until it ends or is killed.
 class OtroProceso
 {
 public:
-    explicit OtroProceso(const std::function<bool()>& trabajo)
+    /// `cuerpo` does not return.
+    explicit OtroProceso(const std::function<void()>& cuerpo) : m_pid{::fork()}
     {
-        std::array<int, 2> tuberia{};
-        if (::pipe(tuberia.data()) != 0)
-            throw std::runtime_error{"pipe"};
-        m_pid = ::fork();
-        if (m_pid == 0)
-            haz(trabajo, tuberia[1]);
-        ::close(tuberia[1]);
-        char hecho = '?';
-        m_resultado = ::read(tuberia[0], &hecho, 1) == 1 && hecho == 'S';
-        ::close(tuberia[0]);
+        if (m_pid < 0)
+            throw std::runtime_error{"fork"};
+        if (m_pid == 0) {
+            cuerpo();
+            ::_exit(1);
+        }
     }
     ~OtroProceso() { mata(); }
     OtroProceso(const OtroProceso&) = delete;
     OtroProceso& operator=(const OtroProceso&) = delete;
 
-    /// What the work returned.
-    [[nodiscard]] bool resultado() const { return m_resultado; }
+    [[nodiscard]] bool vive() const { return ::waitpid(m_pid, nullptr, WNOHANG) == 0; }
     /// As a crash would end it; returns when it is gone.
     void mata()
     {
@@ -55,17 +85,59 @@ public:
     }
 
 private:
-    [[noreturn]] static void haz(const std::function<bool()>& trabajo, int salida)
+    pid_t m_pid = 0;
+};
+
+enum class Respuesta { Tomada, Rehusada, Muerto };
+
+/// Another process that takes the lock, or tries to, and then waits until it is killed.
+class OtraCopia
+{
+public:
+    explicit OtraCopia(CopiaUnica& copia)
+        : m_proceso{[&] {
+            const char byte = copia.ocupa() ? 'S' : 'N';
+            if (::write(m_tuberia.entrada, &byte, 1) == 1)
+                ::pause();
+        }}
     {
-        const char hecho = trabajo() ? 'S' : 'N';
-        if (::write(salida, &hecho, 1) != 1)
-            ::_exit(1);
-        for (;;)
-            ::pause();
+        m_tuberia.cierraEntrada();
+        const std::optional<char> byte = m_tuberia.lee();
+        m_respuesta = !byte ? Respuesta::Muerto : *byte == 'S' ? Respuesta::Tomada : Respuesta::Rehusada;
     }
 
-    pid_t m_pid = 0;
-    bool m_resultado = false;
+    [[nodiscard]] Respuesta respuesta() const { return m_respuesta; }
+    void mata() { m_proceso.mata(); }
+
+private:
+    Tuberia m_tuberia;
+    OtroProceso m_proceso;
+    Respuesta m_respuesta = Respuesta::Muerto;
+};
+
+/// Another program that was started from this one and runs.
+class OtroPrograma
+{
+public:
+    OtroPrograma()
+        : m_proceso{[this] {
+            // It waits for what never comes in; the other pipe closes as it starts.
+            ::dup2(m_espera.salida, STDIN_FILENO);
+            ::execl("/bin/cat", "cat", static_cast<char*>(nullptr));
+            static_cast<void>(::write(m_arranque.entrada, "N", 1));
+        }}
+    {
+        m_arranque.cierraEntrada();
+        m_arrancado = !m_arranque.lee();
+    }
+
+    [[nodiscard]] bool corre() const { return m_arrancado && m_proceso.vive(); }
+
+private:
+    Tuberia m_arranque;
+    Tuberia m_espera;
+    OtroProceso m_proceso;
+    bool m_arrancado = false;
 };
 
 TEST(CopiaUnica, TheFirstCopyRunsAndASecondOneDoesNot)
@@ -112,10 +184,10 @@ TEST(CopiaUnica, ItFallsWithAProcessThatIsKilled)
     const QString nombre = nombrePropio();
     const auto aqui = creaCopiaUnica(nombre);
     const auto suya = creaCopiaUnica(nombre);
-    OtroProceso otro{[&] { return suya->ocupa(); }};
-    ASSERT_TRUE(otro.resultado());
+    OtraCopia otra{*suya};
+    ASSERT_EQ(otra.respuesta(), Respuesta::Tomada);
     EXPECT_FALSE(aqui->ocupa());
-    otro.mata();
+    otra.mata();
     EXPECT_TRUE(aqui->ocupa());
 }
 
@@ -123,9 +195,20 @@ TEST(CopiaUnica, AnotherProcessIsRefusedWhileThisOneHoldsIt)
 {
     const QString nombre = nombrePropio();
     const auto aqui = creaCopiaUnica(nombre);
+    const auto suya = creaCopiaUnica(nombre);
     ASSERT_TRUE(aqui->ocupa());
-    const OtroProceso otro{[&] { return creaCopiaUnica(nombre)->ocupa(); }};
-    EXPECT_FALSE(otro.resultado());
+    EXPECT_EQ(OtraCopia{*suya}.respuesta(), Respuesta::Rehusada);
+}
+
+TEST(CopiaUnica, AProgramThatThisOneStartedDoesNotKeepIt)
+{
+    const QString nombre = nombrePropio();
+    auto esta = creaCopiaUnica(nombre);
+    ASSERT_TRUE(esta->ocupa());
+    const OtroPrograma programa;
+    esta.reset();
+    EXPECT_TRUE(creaCopiaUnica(nombre)->ocupa());
+    EXPECT_TRUE(programa.corre());
 }
 
 } // namespace

@@ -140,5 +140,28 @@ TEST_F(PreferenciasEnTablaTest, ATerminalWithAnApostropheKeepsItsPreferencesToo)
     EXPECT_EQ(guardada(u"PC O'Donnell"_s).tema, 2);
 }
 
+TEST_F(PreferenciasEnTablaTest, OfALongNameTheFirstFiftyCharactersCount)
+{
+    const QString cincuenta = QString{46, u'x'} + u"ñ-01"_s;
+    ASSERT_EQ(cincuenta.size(), 50);
+    const QString largo = cincuenta + u".tienda.local"_s;
+    PreferenciasEnTabla preferencias{largo};
+    EXPECT_EQ(preferencias.DarIdentificador(), largo) << "it is shortened for its row alone";
+    EXPECT_EQ(preferencias.SiguienteTema(m_tienda.tienda()), 2);
+    EXPECT_EQ(preferencias.SiguienteLetra(m_tienda.tienda()), 12);
+    EXPECT_EQ(guardada(largo), (Apariencia{2, 12, 15360, 11085}));
+    EXPECT_EQ(guardada(cincuenta), (Apariencia{2, 12, 15360, 11085}));
+    EXPECT_EQ(guardada(cincuenta.chopped(1)), PorDefecto);
+    EXPECT_EQ(filas(), 1);
+}
+
+TEST_F(PreferenciasEnTablaTest, ALetterOfTwoUnitsIsNotCutInTwo)
+{
+    const QString largo = QString{49, u'x'} + u"😀"_s;
+    EXPECT_EQ(PreferenciasEnTabla{largo}.SiguienteTema(m_tienda.tienda()), 2);
+    EXPECT_EQ(guardada(largo).tema, 2);
+    EXPECT_EQ(guardada(QString{49, u'x'}).tema, 2);
+}
+
 } // namespace
 } // namespace kestrane
