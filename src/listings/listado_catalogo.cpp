@@ -16,7 +16,17 @@ void anadeFila(Listados& listados, const ListadoCatalogo& listado, Recordset& or
     informe.Update();
 }
 
+void anuncia(const ConsultaPorFila& consulta, Recordset& origen)
+{
+    origen.Anticipa(consulta.cabeza.toString(), consulta.campo.toString(), consulta.cola.toString());
+}
+
 } // namespace
+
+QString ConsultaPorFila::sentencia(const Listados& listados, Recordset& origen) const
+{
+    return cabeza.toString() + listados.texto(origen.Fields(campo)) + cola.toString();
+}
 
 void escribeListado(Listados& listados, const ListadoCatalogo& listado, const QString& orden)
 {
@@ -25,8 +35,11 @@ void escribeListado(Listados& listados, const ListadoCatalogo& listado, const QS
     origen.Open(listado.consulta.toString() + orden, listados.contexto.ConexionTienda);
     if (origen.RecordCount() <= 0)
         return;
-    for (Recordset& fila : origen) {
-        anadeFila(listados, listado, fila, informe);
+    if (listado.porFila)
+        anuncia(*listado.porFila, origen);
+    while (!origen.Eof()) {
+        anadeFila(listados, listado, origen, informe);
+        origen.MoveNext();
         listados.progreso.IncrementaBarra();
     }
 }

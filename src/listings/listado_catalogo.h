@@ -19,11 +19,23 @@ struct Copia
 /// What a table of copies cannot say, done after them on the row that is being added. `origen` stands on its record.
 using PasoFila = void (*)(Listados& listados, Recordset& origen, InformeNuevo& informe);
 
+/// A statement that a step asks the shop for each record: `cabeza`, the text of the record's `campo`, `cola`.
+struct ConsultaPorFila
+{
+    QStringView cabeza;
+    QStringView campo;
+    QStringView cola;
+
+    /// The statement for the record on which `origen` stands.
+    [[nodiscard]] QString sentencia(const Listados& listados, Recordset& origen) const;
+};
+
 struct ListadoCatalogo
 {
     QStringView consulta;
     std::span<const Copia> copias;
     PasoFila paso = nullptr;
+    const ConsultaPorFila* porFila = nullptr; ///< announced, so that its answers may be read ahead
 };
 
 /// Clears `informes`, runs the query on the shop and adds a row for each record, in its order. `orden` is joined to the query.

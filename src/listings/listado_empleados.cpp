@@ -4,7 +4,7 @@
 
 namespace kestrane {
 
-using namespace Qt::StringLiterals;
+using listings::ConsultaPorFila;
 using listings::Copia;
 using listings::ListadoCatalogo;
 
@@ -29,15 +29,15 @@ constexpr Copia CopiasEmpleados[] = {
     {u"observaciones", u"texto22"},
 };
 
+constexpr ConsultaPorFila Sueldos{u"Select * from sueldos where codEmpleado = ", u"codigo", u" order by  volumen asc"};
+
 constexpr QStringView ColumnasTramos[] = {u"texto19", u"TEXTO20", u"texto21"};
 
 /// Exactly four rows are read with no test between them: an employee has four steps or none.
 void ponTramosDeSueldo(Listados& listados, Recordset& empleado, InformeNuevo& informe)
 {
     Recordset sueldos;
-    sueldos.Open(u"Select * from sueldos where codEmpleado = "_s + listados.texto(empleado.Fields(u"codigo")) +
-                     u" order by  volumen asc"_s,
-                 listados.contexto.ConexionTienda);
+    sueldos.Open(Sueldos.sentencia(listados, empleado), listados.contexto.ConexionTienda);
     if (sueldos.RecordCount() <= 0)
         return;
     informe.Fields(u"texto17") = sueldos.Fields(u"sueldobase");
@@ -48,7 +48,7 @@ void ponTramosDeSueldo(Listados& listados, Recordset& empleado, InformeNuevo& in
     }
 }
 
-constexpr ListadoCatalogo Empleados{u"Select * from empleados where baja = 0", CopiasEmpleados, ponTramosDeSueldo};
+constexpr ListadoCatalogo Empleados{u"Select * from empleados where baja = 0", CopiasEmpleados, ponTramosDeSueldo, &Sueldos};
 
 } // namespace
 

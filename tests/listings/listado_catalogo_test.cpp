@@ -1,5 +1,7 @@
 #include "listings/listado_catalogo.h"
 
+#include "apoyo/motor_interrumpido.h"
+#include "listings/puesto_envuelto.h"
 #include "pipeline/hay_datos.h"
 #include "pipeline/puesto_de_prueba.h"
 #include "platform/runtime/error_ejecucion.h"
@@ -65,6 +67,17 @@ TEST_F(ListadoCatalogoTest, OneRowAndOneStepOfTheBarForEachRecordInStoredOrder)
     EXPECT_EQ(m_puesto.filas(u"TEXTO35,TEXTO34,texto1,texto2"_s),
               (QStringList{u"Peluquería Ñandú|Calle Mayor, 1|B|Color"_s, u"Peluquería Ñandú|Calle Mayor, 1|A|Corte"_s}));
     EXPECT_EQ(m_puesto.progreso.pasos, 2);
+}
+
+TEST_F(ListadoCatalogoTest, TheBarMovesWhenTheNextRecordIsThere)
+{
+    m_puesto.tienda.ejecuta({u"insert into seccion (codigo, nombre) values (1, 'Corte')"_s,
+                             u"insert into seccion (codigo, nombre) values (2, 'Color')"_s});
+    prueba::PuestoEnvuelto puesto{m_puesto.tienda, prueba::interrumpeTras(1, u"TiendaKestrane"_s)};
+    EXPECT_THROW(escribeListado(puesto.listados, Secciones), ErrorEjecucion);
+    EXPECT_EQ(puesto.progreso.pasos, 0);
+    puesto.contexto.ConexionListados.Close();
+    EXPECT_EQ(m_puesto.filas(u"texto2"_s), QStringList{u"Corte"_s}) << "the row was written before";
 }
 
 TEST_F(ListadoCatalogoTest, NeitherStoreNorPeriodIsWritten)

@@ -1,5 +1,7 @@
 #include "listings/listado_empleados.h"
 
+#include "apoyo/motor_anotado.h"
+#include "listings/puesto_envuelto.h"
 #include "pipeline/puesto_de_prueba.h"
 #include "platform/runtime/error_ejecucion.h"
 
@@ -73,6 +75,26 @@ TEST_F(ListadoEmpleadosTest, FourStepsAreReadInTheOrderOfTheirVolumeAndMoreAreLe
     sueldo(2, u"1"_s, u"5"_s, u"1"_s);
     EXPECT_EQ(numeroDeError(), 0);
     EXPECT_EQ(tramos(), QStringList{u"Ana|1200,75|10|20|30,5|40"_s});
+}
+
+TEST_F(ListadoEmpleadosTest, DuringAReportTheStepsOfAllEmployeesAreReadAhead)
+{
+    for (int codigo = 1; codigo <= 5; ++codigo) {
+        empleado(codigo, u"Empleado %1"_s.arg(codigo));
+        for (int tramo = 4; tramo >= 1 && codigo != 3; --tramo)
+            sueldo(codigo, QString::number(tramo * 1000), QString::number(codigo * 100), QString::number(codigo * 10 + tramo));
+    }
+    QStringList anotaciones;
+    prueba::PuestoEnvuelto puesto{m_puesto.tienda, prueba::anotaEn(anotaciones)};
+    {
+        const auto ambito = puesto.contexto.ConexionTienda.EmpiezaInforme();
+        ListadoEmpleados(puesto.listados);
+    }
+    EXPECT_EQ(anotaciones.filter(u"FROM sueldos"_s).size(), 1);
+    puesto.contexto.ConexionListados.Close();
+    EXPECT_EQ(tramos(), (QStringList{u"Empleado 1|100|11|12|13|14"_s, u"Empleado 2|200|21|22|23|24"_s,
+                                     u"Empleado 3|nulo|nulo|nulo|nulo|nulo"_s, u"Empleado 4|400|41|42|43|44"_s,
+                                     u"Empleado 5|500|51|52|53|54"_s}));
 }
 
 TEST_F(ListadoEmpleadosTest, EveryColumnHasItsField)

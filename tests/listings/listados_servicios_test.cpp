@@ -89,6 +89,8 @@ TEST_F(ListadosServiciosTest, APackHasOneRowForEachOfItsServicesAndNoneWithoutTh
                              " values (5, 'F5', 'Novia', 2, 3, 0, 90, 10)"_s,
                              u"insert into familias (codigo, nombre, seccion) values (6, 'Vacía', 1)"_s,
                              u"insert into familias (codigo, nombre, seccion, borrar) values (4, 'Vieja', 1, -1)"_s,
+                             u"insert into familias (codigo, nombre, seccion) values (3, 'Sin sección', 9)"_s,
+                             u"insert into detalle_familia (familia, servicio) values (3, 7)"_s,
                              u"insert into detalle_familia (familia, servicio) values (5, 8)"_s,
                              u"insert into detalle_familia (familia, servicio) values (5, 7)"_s,
                              u"insert into detalle_familia (familia, servicio) values (5, 99)"_s,
@@ -111,6 +113,21 @@ TEST_F(ListadosServiciosTest, ASpaPackShowsTheDayOfEachService)
     ListadoPackSpa(m_puesto.listados);
     EXPECT_EQ(m_puesto.filas(u"texto1,texto2,texto21,texto22,texto4,texto5,numerico2,numerico3,texto7,texto8"_s),
               (QStringList{u"K5|Relax|Corte|5|3|Si|150,5|21|Sauna|Dia 2"_s, u"K5|Relax|Corte|5|3|Si|150,5|21|Sauna|Dia "_s}));
+}
+
+TEST_F(ListadosServiciosTest, ASpaPackThatIsDeletedOrLacksItsSectionOrItsServiceDoesNotAppear)
+{
+    servicio(7, u"Sauna"_s, 1);
+    m_puesto.tienda.ejecuta({u"insert into cabecera_pack_spa (codigo, nombre, seccion, borrar) values (4, 'Viejo', 1, -1)"_s,
+                             u"insert into cabecera_pack_spa (codigo, nombre, seccion) values (5, 'Sin sección', 9)"_s,
+                             u"insert into cabecera_pack_spa (codigo, nombre, seccion) values (6, 'Entero', 2)"_s,
+                             u"insert into detalle_pack_spa (codigo, codservicio, dia) values (4, 7, 1)"_s,
+                             u"insert into detalle_pack_spa (codigo, codservicio, dia) values (5, 7, 1)"_s,
+                             u"insert into detalle_pack_spa (codigo, codservicio, dia) values (6, 99, 1)"_s,
+                             u"insert into detalle_pack_spa (codigo, codservicio, dia) values (6, 7, 2)"_s});
+    ListadoPackSpa(m_puesto.listados);
+    EXPECT_EQ(m_puesto.filas(u"texto2,texto21,texto22,texto7,texto8"_s), QStringList{u"Entero|Color|6|Sauna|Dia 2"_s});
+    EXPECT_EQ(m_puesto.progreso.pasos, 1);
 }
 
 } // namespace
