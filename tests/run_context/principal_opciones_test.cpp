@@ -9,33 +9,6 @@ using namespace Qt::StringLiterals;
 using prueba::dia;
 using prueba::LecturasTest;
 
-// With nothing there.
-
-TEST_F(LecturasTest, WithAllOptionTablesEmptyItStartsWithEveryDefault)
-{
-    const ContextoEjecucion& contexto = arranca();
-    EXPECT_EQ(contexto.IdentificadorEquipo, u"PC"_s);
-    EXPECT_EQ(contexto.List1, u""_s);
-    EXPECT_EQ(contexto.ClaveInstancia, u"PC"_s);
-    EXPECT_EQ(contexto.RutaBandera, u""_s);
-    EXPECT_EQ(contexto.NombreRegional, u""_s);
-    EXPECT_EQ(contexto.IdentificacionFiscal, u""_s);
-    EXPECT_FALSE(contexto.MigracionVentas);
-    EXPECT_EQ(contexto.FechaMigracionVentas, dia(1899, 12, 30));
-    EXPECT_EQ(contexto.NombreTerminal, u""_s);
-    EXPECT_EQ(contexto.EmpleadoTerminal, 0);
-    EXPECT_EQ(contexto.ImpresoraTicket, u""_s);
-    EXPECT_EQ(contexto.ImpresoraListados, u""_s);
-    EXPECT_EQ(contexto.ImpresoraEtiquetas, u""_s);
-    EXPECT_EQ(contexto.NumDecimales, 0);
-    EXPECT_FALSE(contexto.UtilizaColoresEmpleados);
-    EXPECT_FALSE(contexto.MultiTienda);
-    EXPECT_EQ(contexto.NombreTienda, u""_s);
-    EXPECT_FALSE(contexto.Tiendas.reservado());
-    EXPECT_TRUE(contexto.PermiteListadoVariosDias);
-    EXPECT_FALSE(contexto.ModuloFacturas);
-}
-
 // The shop's data.
 
 /// The texts of `opciones`, each with a value of its own.
@@ -58,6 +31,33 @@ const TextoDeOpciones textosDeOpciones[] = {
     {u"tipo_programa"_s, &ContextoEjecucion::TipoPrograma, u"Peluqueria"_s},
 };
 
+TEST_F(LecturasTest, WithAllOptionTablesEmptyItStartsWithEveryDefault)
+{
+    const ContextoEjecucion& contexto = arranca();
+    EXPECT_EQ(contexto.IdentificadorEquipo, u"PC"_s);
+    EXPECT_EQ(contexto.List1, u""_s);
+    EXPECT_EQ(contexto.ClaveInstancia, u"PC"_s);
+    EXPECT_EQ(contexto.RutaBandera, u""_s);
+    EXPECT_EQ(contexto.NombreRegional, u""_s);
+    EXPECT_EQ(contexto.IdentificacionFiscal, u""_s);
+    EXPECT_FALSE(contexto.MigracionVentas);
+    EXPECT_EQ(contexto.FechaMigracionVentas, dia(1899, 12, 30));
+    EXPECT_EQ(contexto.NombreTerminal, u""_s);
+    EXPECT_EQ(contexto.EmpleadoTerminal, 0);
+    EXPECT_EQ(contexto.ImpresoraTicket, u""_s);
+    EXPECT_EQ(contexto.ImpresoraListados, u""_s);
+    EXPECT_EQ(contexto.ImpresoraEtiquetas, u""_s);
+    for (const TextoDeOpciones& texto : textosDeOpciones)
+        EXPECT_EQ(contexto.*texto.miembro, u""_s) << texto.columna.toStdString();
+    EXPECT_EQ(contexto.NumDecimales, 0);
+    EXPECT_FALSE(contexto.UtilizaColoresEmpleados);
+    EXPECT_FALSE(contexto.MultiTienda);
+    EXPECT_EQ(contexto.NombreTienda, u""_s);
+    EXPECT_FALSE(contexto.Tiendas.reservado());
+    EXPECT_TRUE(contexto.PermiteListadoVariosDias);
+    EXPECT_FALSE(contexto.ModuloFacturas);
+}
+
 TEST_F(LecturasTest, EveryTextOfTheOptionsIsReadAsItStands)
 {
     m_tienda.ejecuta(u"insert into opciones (numdecimales) values (3)"_s);
@@ -69,15 +69,11 @@ TEST_F(LecturasTest, EveryTextOfTheOptionsIsReadAsItStands)
     EXPECT_EQ(contexto.NumDecimales, 3);
 }
 
-TEST_F(LecturasTest, WithoutOptionsAndWithNullsTheirTextsAreEmpty)
+TEST_F(LecturasTest, TextsOfTheOptionsThatAreNullAreEmpty)
 {
-    arranca();
-    for (const TextoDeOpciones& texto : textosDeOpciones)
-        EXPECT_EQ(contexto().*texto.miembro, u""_s) << "no row: " << texto.columna.toStdString();
-    EXPECT_EQ(contexto().NumDecimales, 0);
     tras(u"insert into opciones (numdecimales) values (2)"_s);
     for (const TextoDeOpciones& texto : textosDeOpciones)
-        EXPECT_EQ(contexto().*texto.miembro, u""_s) << "null: " << texto.columna.toStdString();
+        EXPECT_EQ(contexto().*texto.miembro, u""_s) << texto.columna.toStdString();
 }
 
 TEST_F(LecturasTest, OnlyTheFirstRowOfTheOptionsCounts)
