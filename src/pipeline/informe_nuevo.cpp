@@ -4,9 +4,13 @@ namespace kestrane {
 
 using namespace Qt::StringLiterals;
 
-InformeNuevo::InformeNuevo(Listados& listados, Cabecera cabecera) : m_listados{listados}, m_cabecera{cabecera}
+InformeNuevo::InformeNuevo(Listados& listados, Cabecera cabecera)
+    : InformeNuevo{listados, cabecera, listados.contexto.ConexionListados}
 {
-    Conexion& conexion = listados.contexto.ConexionListados;
+}
+
+InformeNuevo::InformeNuevo(Listados& listados, Cabecera cabecera, Conexion& conexion) : m_listados{listados}, m_cabecera{cabecera}
+{
     conexion.Execute(u"Delete * from informes"_s);
     m_filas.Open(u"Select * from informes"_s, conexion, CursorType::Keyset, LockType::Optimistic);
 }
@@ -27,6 +31,11 @@ void InformeNuevo::AddNew(Cabecera cabecera)
         return;
     Fields(u"Fecha1") = contexto.FechaDesde;
     Fields(u"fecha2") = contexto.FechaHasta;
+}
+
+void InformeNuevo::anade(QStringView columna, const QString& texto)
+{
+    Fields(columna) = m_listados.texto(Fields(columna)) + texto;
 }
 
 } // namespace kestrane

@@ -30,8 +30,10 @@ inline constexpr Cabecera Completa = EmpresaYTienda | ColumnaCabecera::Periodo;
 class InformeNuevo
 {
 public:
-    /// `listados` outlives the object.
+    /// On the run context's connection to the reports database. `listados` outlives the object.
     InformeNuevo(Listados& listados, Cabecera cabecera);
+    /// The same on a connection of the builder's own to that database, open and outliving the object.
+    InformeNuevo(Listados& listados, Cabecera cabecera, Conexion& conexion);
 
     /// Begins a row and writes its header columns. A row that was begun and not updated is written first.
     void AddNew() { AddNew(m_cabecera); }
@@ -39,6 +41,8 @@ public:
     void AddNew(Cabecera cabecera);
     /// A column of the row that is being added, to write or to read back. Error 3265 when there is none.
     [[nodiscard]] database::Campo Fields(QStringView columna) { return m_filas.Fields(columna); }
+    /// Joins `texto` to what a text column of that row holds; a column that is still Null then holds `texto` alone.
+    void anade(QStringView columna, const QString& texto);
     /// Writes the row.
     void Update() { m_filas.Update(); }
 

@@ -1,7 +1,7 @@
 #include "pipeline/informe_nuevo.h"
 
 #include "pipeline/puesto_de_prueba.h"
-#include "platform/runtime/error_ejecucion.h"
+#include "platform/runtime/soporte.h"
 
 #include <gtest/gtest.h>
 
@@ -99,9 +99,73 @@ TEST_F(InformeNuevoTest, AColumnOfTheRowThatIsBeingAddedIsReadBack)
     m_puesto.contexto.MultiTienda = true;
     InformeNuevo informe{m_puesto.listados, cabeceras::Completa};
     informe.AddNew();
-    informe.Fields(u"texto33") = m_puesto.listados.texto(informe.Fields(u"texto33")) + u" B12"_s;
+    EXPECT_EQ(informe.Fields(u"texto33").texto(), u"Tienda = "_s);
+    EXPECT_TRUE(informe.Fields(u"texto1").esNulo());
+}
+
+/// What the store line holds after a tax number was joined to it.
+class LineaDeTienda : public InformeNuevoTest
+{
+protected:
+    QStringList conCif(const QString& cif)
+    {
+        InformeNuevo informe{m_puesto.listados, cabeceras::Completa};
+        informe.AddNew();
+        informe.anade(u"texto33", u" "_s + cif);
+        informe.Update();
+        return m_puesto.filas(u"texto33"_s);
+    }
+};
+
+TEST_F(LineaDeTienda, ATextIsJoinedToWhatTheColumnHolds)
+{
+    m_puesto.contexto.MultiTienda = true;
+    EXPECT_EQ(conCif(u"B12"_s), QStringList{u"Tienda =  B12"_s});
+    m_puesto.contexto.TiendaSeleccionada = u"Centro"_s;
+    EXPECT_EQ(conCif(u"B12"_s), QStringList{u"Tienda = Centro B12"_s});
+    EXPECT_EQ(conCif({}), QStringList{u"Tienda = Centro "_s});
+}
+
+TEST_F(LineaDeTienda, WhereTheColumnIsStillNullTheTextStandsAlone)
+{
+    EXPECT_EQ(conCif(u"B12"_s), QStringList{u" B12"_s});
+    EXPECT_EQ(conCif({}), QStringList{u" "_s});
+}
+
+TEST_F(InformeNuevoTest, WhatIsJoinedTwiceStandsInItsOrder)
+{
+    InformeNuevo informe{m_puesto.listados, {}};
+    informe.AddNew();
+    informe.Fields(u"texto3") = u"Corte"_s;
+    informe.anade(u"texto3", u" + (Vale Descuento)"_s);
+    informe.anade(u"texto3", u"!"_s);
     informe.Update();
-    EXPECT_EQ(m_puesto.filas(u"texto33"_s), QStringList{u"Tienda =  B12"_s});
+    EXPECT_EQ(m_puesto.filas(u"texto3"_s), QStringList{u"Corte + (Vale Descuento)!"_s});
+}
+
+TEST_F(InformeNuevoTest, ABuilderMayWriteThroughAConnectionOfItsOwn)
+{
+    m_puesto.tienda.ejecutaListados(u"insert into informes (texto1) values ('antes')"_s);
+    {
+        Conexion propia{m_puesto.tienda.entorno()};
+        propia.Open(u"dsn=ListKestrane"_s);
+        InformeNuevo informe{m_puesto.listados, {}, propia};
+        informe.AddNew();
+        informe.Fields(u"texto1") = u"por la otra"_s;
+        informe.Update();
+        EXPECT_EQ(m_puesto.filas(u"texto1"_s), QStringList{u"por la otra"_s});
+    }
+    EXPECT_EQ(m_puesto.filas(u"texto1"_s), QStringList{u"por la otra"_s});
+}
+
+TEST_F(InformeNuevoTest, AConnectionOfItsOwnThatIsNotOpenIsTheDatabasesError)
+{
+    Conexion cerrada{m_puesto.tienda.entorno()};
+    EXPECT_EQ(prueba::numeroDeError([&] {
+                  const InformeNuevo informe{m_puesto.listados, {}, cerrada};
+                  return 0;
+              }),
+              ErrorEjecucion::ConexionImposible);
 }
 
 TEST_F(InformeNuevoTest, RowsWrittenBeforeAnErrorStay)

@@ -1,7 +1,8 @@
 #include "pipeline/sentencias_numero.h"
 
+#include "apoyo/motor_anotado.h"
 #include "pipeline/puesto_de_prueba.h"
-#include "platform/runtime/error_ejecucion.h"
+#include "platform/runtime/soporte.h"
 
 #include <gtest/gtest.h>
 
@@ -29,6 +30,44 @@ TEST_F(SentenciasNumero, ATotalOfAnEmptyReportChangesNothingAndIsNoError)
 {
     total(12.5);
     EXPECT_EQ(m_puesto.filas(u"numerico8"_s), QStringList{});
+}
+
+/// What reaches the engine with regional settings of the test's own. The engine is the embedded one, whose text is written down.
+class SentenciasAnotadas : public testing::Test
+{
+protected:
+    QString total(double valor, const ConfiguracionRegional& regional, QStringView principio = u"update informes set numerico8= ")
+    {
+        database::OpcionesDatos opciones = m_tienda.opciones(prueba::anotaEn(m_anotaciones));
+        opciones.regional = regional;
+        EntornoDatos entorno{opciones};
+        ContextoEjecucion contexto{entorno};
+        contexto.ConexionListados.Open(u"dsn=ListKestrane"_s);
+        Listados listados{contexto, m_progreso, m_reloj};
+        m_anotaciones.clear();
+        ejecutaConNumero(listados, principio, valor);
+        return m_anotaciones.join(u'\n');
+    }
+
+    prueba::TiendaDePrueba m_tienda{jet::Motor::Sqlite};
+    QStringList m_anotaciones;
+    prueba::ProgresoContado m_progreso;
+    RelojFijo m_reloj{prueba::dia(2024, 3, 15)};
+};
+
+TEST_F(SentenciasAnotadas, OneStatementWithOneNumberIsSentWhateverTheDecimalMarkOfTheMachine)
+{
+    const QString enviada = u"ListKestrane: UPDATE informes SET numerico8 = 1234,5"_s; // as the recording engine writes the double
+    EXPECT_EQ(total(1234.5, prueba::es()), enviada);
+    EXPECT_EQ(total(1234.5, prueba::enUs()), enviada);
+}
+
+TEST_F(SentenciasAnotadas, NegativeAndSmallNumbersToo)
+{
+    for (const ConfiguracionRegional& regional : {prueba::es(), prueba::enUs()}) {
+        EXPECT_EQ(total(-0.25, regional), u"ListKestrane: UPDATE informes SET numerico8 = -0,25"_s);
+        EXPECT_EQ(total(0.00001234, regional), u"ListKestrane: UPDATE informes SET numerico8 = 1,234E-05"_s);
+    }
 }
 
 TEST_F(SentenciasNumero, WithDecimalCommaTheNumberIsWrittenWithAPoint)
