@@ -63,6 +63,8 @@ void DialogosDeLote::Muestra(Dialogo dialogo, const QString&)
         return meses();
     case Dialogo::ReImprimir:
         return reImprimir();
+    case Dialogo::EtiquetasClientes:
+        return etiquetasClientes();
     case Dialogo::SelTienda:
         return; // the store was chosen at the start
     }
@@ -203,6 +205,15 @@ void DialogosDeLote::reImprimir()
     m_contexto.NumeroReimpresion = m_respuestas.exigeNumero(Respuesta::Factura);
     m_contexto.ReimprimirFactura = true;
     acepta();
+}
+
+/// The panel as it is opened, before the operator chooses anything: labels for all clients.
+void DialogosDeLote::etiquetasClientes()
+{
+    EtiquetasClientes& etiquetas = m_contexto.filtros.etiquetas;
+    etiquetas = {};
+    etiquetas.OptGeneral = true;
+    etiquetas.desdeCumple = etiquetas.HastaCumple = m_reloj.hoy();
 }
 
 QString DialogosDeLote::nombreDe(const QString& sentencia, qint32 codigo, const QString& todos)

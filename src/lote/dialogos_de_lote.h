@@ -11,6 +11,7 @@ public:
     /// All three outlive the object.
     DialogosDeLote(ContextoEjecucion& contexto, const PedidoInforme& pedido, const Reloj& reloj);
 
+    [[nodiscard]] bool Existe(Dialogo) const override { return true; }
     /// PeticionImposible when the dialog would not take the answers, or lacks one.
     void Muestra(Dialogo dialogo, const QString& titulo) override;
 
@@ -34,6 +35,7 @@ private:
     void clientesPerdidos();
     void meses();
     void reImprimir();
+    void etiquetasClientes();
 
     [[nodiscard]] QString nombreDe(const QString& sentencia, qint32 codigo, const QString& todos);
     [[nodiscard]] QString nombreDeProveedor(qint32 codigo);

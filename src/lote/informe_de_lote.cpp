@@ -45,11 +45,6 @@ std::unique_ptr<Progreso> progresoDe(const EntornoDeLote& entorno)
     return std::make_unique<ProgresoDeLote>(entorno.errores, [desde] { return desde.elapsed(); });
 }
 
-bool estaDisponible(const FilaCatalogo& fila)
-{
-    return fila.clase == Clase::Informe && catalogue::constructorQueFalta(fila).isEmpty();
-}
-
 /// One run, from the copy of the reports database to the files.
 class Carrera
 {
@@ -130,9 +125,8 @@ private:
 int ejecutaInforme(const Opciones& opciones, const database::OpcionesDatos& datos, const EntornoDeLote& entorno)
 {
     const FilaCatalogo& fila = *opciones.informe.fila;
-    if (!estaDisponible(fila)) {
-        const auto tipo = fila.clase == Clase::Grafico ? u"El gráfico"_s : u"El listado"_s;
-        MensajesDeLote{entorno.errores}.Informa(u"%1 \"%2\" todavía no está disponible."_s.arg(tipo, fila.leyenda), {});
+    if (!catalogue::estaDisponible(fila)) {
+        MensajesDeLote{entorno.errores}.Informa(AvisoNoDisponible.toString(), {});
         return SalidaError;
     }
     if (!opciones.informe.salida.isEmpty())
@@ -148,7 +142,7 @@ QByteArray listaDeInformes()
             continue;
         lista.append(fila.control.toUtf8()).append('\t').append(fila.leyenda.toUtf8());
         lista.append(fila.clase == Clase::Grafico ? "\tgrafico" : "\tinforme");
-        lista.append(estaDisponible(fila) ? "\n" : "\ttodavía no disponible\n");
+        lista.append(catalogue::estaDisponible(fila) ? "\n" : "\ttodavía no disponible\n");
     }
     return lista;
 }

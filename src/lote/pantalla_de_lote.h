@@ -13,6 +13,7 @@ namespace kestrane::lote {
 class MenuDeLote final : public Menu
 {
 public:
+    [[nodiscard]] QString Leyenda(QStringView) const override { return {}; }
     void Haz(AccionMenu) override {}
     void Repinta() override {}
     void MuestraInfo() override {}

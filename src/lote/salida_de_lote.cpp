@@ -26,9 +26,9 @@ void SalidaDeLote::ImprimirReport(const QString& nombre)
     m_impresora.clear();
 }
 
-void SalidaDeLote::MostrarGrafico(const QString& nombre)
+void SalidaDeLote::MostrarGrafico(const QString&, const DatosDeGrafico&)
 {
-    throw ErrorEjecucion{ErrorEjecucion::SentenciaRechazada, u"El gráfico \"%1\" todavía no está disponible."_s.arg(nombre)};
+    throw ErrorEjecucion{ErrorEjecucion::SentenciaRechazada, AvisoNoDisponible.toString()};
 }
 
 void SalidaDeLote::termina()

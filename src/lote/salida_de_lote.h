@@ -31,7 +31,7 @@ public:
     void DarImpresora(const QString& nombre) override { m_impresora = nombre; }
     void ImprimirReport(const QString& nombre) override;
     /// Charts have no data yet: error -2147217900 says so.
-    void MostrarGrafico(const QString& nombre) override;
+    void MostrarGrafico(const QString& nombre, const DatosDeGrafico& datos) override;
 
     /// The end of the run: what was built and shown nowhere is written too, with an empty layout.
     void termina();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "pipeline/matriz_grafico.h"
 #include "pipeline/pantalla.h"
 #include "platform/runtime/conversiones.h"
 #include "platform/runtime/reloj.h"
@@ -23,5 +24,12 @@ struct Listados
 /// A report builder: leaves `informes` and `subinformes` ready for the layout. Every failure is an ErrorEjecucion; rows written
 /// before it stay.
 using Constructor = void (*)(Listados&);
+
+/// A builder that serves several buttons and is told which of them by a number.
+using ConstructorConNumero = void (*)(Listados&, qint16);
+
+/// The collector of a chart: reads the shop and gives back the chart's matrix, without the staging tables. It fails as a builder
+/// does.
+using Recolector = MatrizGrafico (*)(Listados&);
 
 } // namespace kestrane

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "run_context/etiquetas_clientes.h"
+
 #include <QString>
 
 namespace kestrane {
@@ -11,7 +13,7 @@ namespace kestrane {
 /// load sets to -1 (all).
 struct Filtros
 {
-    qint32 cliente = 0;               ///< the menu, from the client search
+    QString cliente;                  ///< the menu: the client of the client history as its search gave it
     bool todasLasSecciones = false;   ///< frmHistoricoXClientes
     qint32 seccion = -1;              ///< frmHistoricoXClientes, frmFiltrosProductos; reset: load of both, to -1
     bool soloProductos = false;       ///< frmHistoricoXClientes
@@ -29,6 +31,7 @@ struct Filtros
     qint16 mes = 0;                   ///< frmMeses: 1 to 12
     qint16 anio = 0;                  ///< frmMeses
     qint32 TarifaAplicada = 0;        ///< the label builder that reads this copy's tariff, -1 when there is none
+    EtiquetasClientes etiquetas;      ///< the panel of the client labels
 
     friend bool operator==(const Filtros&, const Filtros&) = default;
 };

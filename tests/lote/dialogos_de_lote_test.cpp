@@ -388,5 +388,16 @@ TEST_F(EligeTienda, AwayFromTheServerAnyNameIsTaken)
     EXPECT_EQ(elige(u"Centro"_s), u"Centro"_s);
 }
 
+TEST_F(DialogosDeLoteTest, LabelsForClientsAreThoseOfThePanelAsItIsOpened)
+{
+    m_contexto.filtros.etiquetas.optTodos = true;
+    EXPECT_EQ(muestra(Dialogo::EtiquetasClientes), u""_s);
+    EtiquetasClientes alAbrir;
+    alAbrir.OptGeneral = true;
+    alAbrir.desdeCumple = alAbrir.HastaCumple = *Fecha::deCalendario(2024, 3, 15);
+    EXPECT_TRUE(m_contexto.filtros.etiquetas == alAbrir);
+    EXPECT_FALSE(m_contexto.FiltroAceptado);
+}
+
 } // namespace
 } // namespace kestrane::lote

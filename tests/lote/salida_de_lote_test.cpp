@@ -38,7 +38,7 @@ TEST_F(SalidaDeLoteTest, AFolderThatTakesNoFileIsAnError)
 
 TEST_F(SalidaDeLoteTest, AChartSaysThatItIsNotThereYet)
 {
-    EXPECT_THROW(m_salida.MostrarGrafico(u"porEmpleado"_s), ErrorEjecucion);
+    EXPECT_THROW(m_salida.MostrarGrafico(u"porEmpleado"_s, {}), ErrorEjecucion);
 }
 
 TEST_F(SalidaDeLoteTest, EachReportKeepsTheRowsItHadWhenItWasShown)

@@ -96,7 +96,7 @@ TEST_F(ContextoEjecucionTest, FiltersThatADialogResetsToAllBeginThereAndTheOther
     EXPECT_EQ(filtros.proveedor, -1);
     EXPECT_EQ(filtros.proveedorBajoMinimos, -1);
 
-    EXPECT_EQ(filtros.cliente, 0);
+    EXPECT_EQ(filtros.cliente, QString{});
     EXPECT_EQ(filtros.empleado, 0);
     EXPECT_EQ(filtros.mes, 0);
     EXPECT_EQ(filtros.anio, 0);

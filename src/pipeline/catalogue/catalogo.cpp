@@ -4,35 +4,22 @@
 #include "listings/listados_articulos.h"
 #include "listings/listados_maestros.h"
 #include "listings/listados_servicios.h"
-#include "pipeline/catalogue/condiciones.h"
+#include "pipeline/catalogue/filas.h"
 #include "pipeline/catalogue/pasos.h"
 
 namespace kestrane::catalogue {
 
 namespace {
 
-constexpr Marcas SinMarcas{};
 constexpr Marcas Hoy = Marca::Hoy;
 constexpr Marcas Select = Marca::Select;
 constexpr Marcas Bucle = Marca::Bucle;
 
 constexpr CadenaDialogos SinDialogo{};
-
-constexpr CadenaDialogos dialogo(Dialogo unico)
-{
-    return {.dialogos = {unico}, .cuantos = 1};
-}
-
 constexpr CadenaDialogos F = dialogo(Dialogo::Fechas);
 constexpr CadenaDialogos FConFormatos = dialogo(Dialogo::FechasConFormatos);
-constexpr CadenaDialogos FYProductosVendidos{.dialogos = {Dialogo::Fechas, Dialogo::ProductosVendidos}, .cuantos = 2};
-constexpr CadenaDialogos BuscarEHistorico{
-    .dialogos = {Dialogo::Buscar, Dialogo::HistoricoXClientes}, .cuantos = 2, .trasElPrimero = tomaClienteBuscado};
-
-constexpr Constructores de(QStringView nombre, Constructor constructor = nullptr)
-{
-    return {{{nombre, constructor}}};
-}
+constexpr CadenaDialogos FYProductosVendidos = dosDialogos(Dialogo::Fechas, Dialogo::ProductosVendidos);
+constexpr CadenaDialogos BuscarEHistorico = dosDialogos(Dialogo::Buscar, Dialogo::HistoricoXClientes, tomaClienteBuscado);
 
 constexpr Constructores PorProductos{
     {{u"ListadoPorProductos", nullptr, esDeAlimentacionYPerfume}, {u"ListadoPorProductosTallaColor"}}};
@@ -40,21 +27,6 @@ constexpr Constructores HistoricoEmpleados{
     {{u"ListadoHistoricoEmpleadosSeleccion", nullptr, totalizado}, {u"ListadoHistoricoEmpleadosTodos"}}};
 constexpr Constructores Productos{{{u"ListadoProductosTallaColor", nullptr, esDeTallaYColor}, {u"ListadoProductosGeneral"}}};
 constexpr Constructores Factura{{{u"ListadoFactura", nullptr, reimprimeFactura}}};
-
-constexpr Disenos en(QStringView fichero)
-{
-    return {{{fichero}}};
-}
-
-constexpr Disenos porComercio(QStringView comercio, QStringView base)
-{
-    return {{{comercio, ImpresoraDe::Listados, esComercio}, {base}}};
-}
-
-constexpr Disenos porTicket(QStringView ticket, QStringView folio)
-{
-    return {{{ticket, ImpresoraDe::Ticket, enTicket}, {folio}}};
-}
 
 constexpr Disenos CajaGeneral{{{u"T_caja_general_ticket.rpt", ImpresoraDe::Ticket, enTicketDeComercio},
                                {u"K_caja_general_ticket.rpt", ImpresoraDe::Ticket, enTicket},
@@ -68,65 +40,12 @@ constexpr Disenos DeHistoricoEmpleados{{{u"K_ListadoHisXEmp1.rpt", ImpresoraDe::
                                         {u"K_ListadoHisXEmp2.rpt", ImpresoraDe::Listados, totalizado},
                                         {u"K_ListadoHisXEmp3.rpt"}}};
 constexpr Disenos Albaranes{{{u"T_Albaranes.rpt", ImpresoraDe::Listados, esComercio}}};
-constexpr Disenos Stock = porComercio(u"T_EntradaStock.rpt", u"K_EntradaStock.rpt");
-
-constexpr FilaCatalogo informe(QStringView control, QStringView leyenda, const CadenaDialogos& dialogos,
-                               const Constructores& constructores, const Disenos& disenos, Marcas marcas = SinMarcas)
-{
-    FilaCatalogo fila{.clase = Clase::Informe, .control = control, .leyenda = leyenda};
-    fila.dialogos = dialogos;
-    fila.constructores = constructores;
-    fila.disenos = disenos;
-    fila.marcas = marcas;
-    return fila;
-}
-
-/// The row with what its button sets before the dialogs.
-constexpr FilaCatalogo tras(void (*preparacion)(ContextoEjecucion&), FilaCatalogo fila)
-{
-    fila.preparacion = preparacion;
-    return fila;
-}
-
-/// The row with a text of its own for frmFechas.
-constexpr FilaCatalogo titulado(QStringView titulo, FilaCatalogo fila)
-{
-    fila.titulo = titulo;
-    return fila;
-}
-
-constexpr FilaCatalogo grafico(QStringView control, QStringView leyenda, const CadenaDialogos& dialogos, QStringView nombre,
-                               Marcas marcas)
-{
-    FilaCatalogo fila{.clase = Clase::Grafico, .control = control, .leyenda = leyenda};
-    fila.dialogos = dialogos;
-    fila.grafico = nombre;
-    fila.marcas = marcas;
-    return fila;
-}
-
-constexpr FilaCatalogo accion(QStringView control, QStringView leyenda, const Acciones& acciones)
-{
-    FilaCatalogo fila{.clase = Clase::Accion, .control = control, .leyenda = leyenda};
-    fila.acciones = acciones;
-    return fila;
-}
-
-constexpr FilaCatalogo sinAccion(QStringView control, QStringView leyenda)
-{
-    return {.clase = Clase::SinAccion, .control = control, .leyenda = leyenda};
-}
-
-constexpr Acciones hace(AccionMenu accion)
-{
-    return {{{accion, nullptr, true}}};
-}
+constexpr Disenos DeStock = porComercio(u"T_EntradaStock.rpt", u"K_EntradaStock.rpt");
 
 constexpr Acciones EtiquetasDeProductos{
     {{AccionMenu::EtiquetasDeProductosTPV, esDeAlimentacionYPerfume, true}, {AccionMenu::EtiquetasDeProductos, nullptr, true}}};
 
-// "Por Pack Servicios" shows the caption of "Por Servicios" on its format labels, as it always did.
-constexpr FilaCatalogo Filas[] = {
+constexpr std::array Caja{
     informe(u"cmd_Caja1", u"Caja Diaria General", F, de(u"ListadoCajaDiaria"),
             porComercio(u"T_caja_diariageneral2.rpt", u"K_caja_diariageneral2.rpt"), Hoy | Bucle),
     informe(u"cmdCajaDiariaResumido", u"Caja Diaria General Resumido", F, de(u"ListadoCajaDiaria"),
@@ -135,15 +54,18 @@ constexpr FilaCatalogo Filas[] = {
     informe(u"cmd_Caja4", u"Caja Diaria Formato Ticket", F, de(u"ListadoCajaTickets"), CajaTickets, Hoy | Bucle),
     tras(prepararReimpresion,
          informe(u"cmd_Caja5", u"Re-Impresion de Facturas", dialogo(Dialogo::ReImprimir), Factura, en(u"K_factura.rpt"), Select)),
+};
 
+constexpr std::array Ventas{
     informe(u"cmd_Ventas1", u"Por Servicios", FConFormatos, de(u"ListadoPorServicios"),
             porTicket(u"K_porservicios_ticket.rpt", u"K_porservicios.rpt"), Bucle),
     informe(u"cmd_Ventas2", u"Formas de Pago", F, de(u"ListadoFormasPagoVentas"), en(u"K_formapago.rpt"), Bucle),
     tras(buscaClientes,
          informe(u"cmd_Ventas3", u"Hist. X Clientes", BuscarEHistorico, de(u"ListadoHistoricoClientes"),
                  porComercio(u"T_Listado_Historico.rpt", u"K_Listado_Historico.rpt"), Bucle | Marca::SinFiltroAceptado)),
-    titulado(u"Por Servicios", informe(u"cmd_Ventas4", u"Por Pack Servicios", FConFormatos, de(u"ListadoPorPackSpa"),
-                                       porTicket(u"K_porPackSpa_ticket.rpt", u"K_porPackSpa.rpt"))),
+    // Shows the caption of "Por Servicios" on its format labels, as it always did.
+    conTituloDe(u"cmd_Ventas1", informe(u"cmd_Ventas4", u"Por Pack Servicios", FConFormatos, de(u"ListadoPorPackSpa"),
+                                        porTicket(u"K_porPackSpa_ticket.rpt", u"K_porPackSpa.rpt"))),
     informe(u"cmd_Ventas5", u"Por Productos", FConFormatos, PorProductos, DePorProductos, Bucle),
     informe(u"cmd_Ventas6", u"Hist. X Empleados", dialogo(Dialogo::HistoricoXEmpleados), HistoricoEmpleados, DeHistoricoEmpleados,
             Bucle),
@@ -157,7 +79,9 @@ constexpr FilaCatalogo Filas[] = {
     informe(u"cmd_Ventas12", u"Caja Totales por Día", F, de(u"ListadoTotalesPorDia"), en(u"K_TotalesXDia.rpt"), Bucle),
     informe(u"cmd_Ventas20", u"Por Arreglos", F, de(u"ListadoPorArreglos"), en(u"K_porArreglos.rpt")),
     informe(u"cmdAlbaranes", u"Ventas modo Albaran", F, de(u"ListadoAlbaranes"), Albaranes, Hoy),
+};
 
+constexpr std::array Estadisticas{
     informe(u"cmd_Estadisticas1", u"Descuentos Realizados", F, de(u"ListadoDescuentos"), en(u"K_DescuentosRealizados.rpt"), Bucle),
     informe(u"cmd_Estadisticas2", u"Por Gastos", F, de(u"ListadoGastos"), en(u"K_Gastos.rpt"), Bucle),
     informe(u"cmd_Estadisticas3", u"Ocupacion por Horas", F, de(u"ListadoOcupacionHoras"), en(u"K_OcupacionXHoras.rpt"), Bucle),
@@ -169,7 +93,9 @@ constexpr FilaCatalogo Filas[] = {
     informe(u"cmd_Estadisticas7", u"Ranking por Visitas", F, de(u"ListadoRanking"),
             porComercio(u"T_RankingVisitas.rpt", u"K_RankingVisitas.rpt"), Bucle),
     informe(u"cmd_Estadisticas8", u"Visitas X Seccion", F, de(u"ListadoPorSecciones"), en(u"K_VisitasXSeccion.rpt"), Bucle),
+};
 
+constexpr std::array Generales{
     tras(prepararClientes, informe(u"cmd_Generales1", u"Clientes", dialogo(Dialogo::OrdenClientes), de(u"ListadoClientes"),
                                    en(u"K_Clientes.rpt"), Select | Bucle)),
     tras(prepararCumpleanios, titulado(u"Clientes que cumplen años", informe(u"cmd_Generales13", u"Cumpleaños", F,
@@ -195,38 +121,57 @@ constexpr FilaCatalogo Filas[] = {
     accion(u"cmd_Generales12", u"Etiquetas de Clientes", hace(AccionMenu::EtiquetasDeClientes)),
     accion(u"cmd_Generales21", u"Carteles", hace(AccionMenu::Carteles)),
     accion(u"cmd_Generales22", u"Etiquetas de Productos", EtiquetasDeProductos),
+};
+
+constexpr std::array TallaColor{
     informe(u"cmd_Colores", u"Colores", SinDialogo, de(u"ListadoColores", ListadoColores), en(u"TC_colores.rpt")),
     informe(u"cmd_Marcas", u"Marcas", SinDialogo, de(u"ListadoMarcas", ListadoMarcas), en(u"TC_Marcas.rpt")),
     informe(u"cmd_Tallas", u"Tallas", SinDialogo, de(u"ListadoTallas", ListadoTallas), en(u"TC_Tallas.rpt")),
     informe(u"cmd_Talleres", u"Talleres", SinDialogo, de(u"ListadoTalleres", ListadoTalleres), en(u"TC_Talleres.rpt")),
     informe(u"cmd_Arreglos", u"Arreglos", SinDialogo, de(u"ListadoArreglos", ListadoArreglos), en(u"TC_Arreglos.rpt")),
+};
 
-    informe(u"cmd_AgendaPendientes", u"Citas Pendientes", F, de(u"ListadoAgenda"), en(u"K_Agenda.rpt"), Bucle),
-    informe(u"cmd_AgendaAnuladas", u"Citas Anuladas", F, de(u"ListadoAgenda"), en(u"K_Agenda.rpt"), Bucle),
-    informe(u"cmd_AgendasAusentes", u"Citas Ausentes", F, de(u"ListadoAgenda"), en(u"K_Agenda.rpt"), Bucle),
+constexpr std::array EtiquetasDeClientes{
+    // The button of the panel that "Etiquetas de Clientes" opens.
+    informe(u"Command10", u"Continuar", dialogo(Dialogo::EtiquetasClientes), de(u"ListadoEtiquetasClientes"),
+            en(u"K_etiquetas.rpt"), Select | Marca::SinFiltroAceptado),
+};
 
-    informe(u"Command22", u"Bonos Caducados", SinDialogo, de(u"ListadoBonos"), en(u"K_Bonos.rpt"),
+constexpr std::array Agendas{
+    informe(u"cmd_AgendaPendientes", u"Citas Pendientes", F, con<1>(u"ListadoAgenda"), en(u"K_Agenda.rpt"), Bucle),
+    informe(u"cmd_AgendaAnuladas", u"Citas Anuladas", F, con<2>(u"ListadoAgenda"), en(u"K_Agenda.rpt"), Bucle),
+    informe(u"cmd_AgendasAusentes", u"Citas Ausentes", F, con<3>(u"ListadoAgenda"), en(u"K_Agenda.rpt"), Bucle),
+};
+
+constexpr std::array Bonos{
+    informe(u"Command22", u"Bonos Caducados", SinDialogo, con<2>(u"ListadoBonos"), en(u"K_Bonos.rpt"),
             Select | Bucle | Marca::ConAviso),
-    informe(u"Command23", u"Bonos Activos", SinDialogo, de(u"ListadoBonos"), en(u"K_Bonos.rpt"), Select | Bucle),
+    informe(u"Command23", u"Bonos Activos", SinDialogo, con<1>(u"ListadoBonos"), en(u"K_Bonos.rpt"), Select | Bucle),
+};
 
-    informe(u"Command18", u"Entrada de Productos", F, de(u"ListadoStockEntradas"), Stock),
-    informe(u"Command17", u"Ventas", F, de(u"ListadoStockVentas"), Stock),
-    informe(u"Command16", u"Devoluciones de Ventas", F, de(u"ListadoStockDevolucionesVentas"), Stock),
-    informe(u"Command15", u"Regularizaciones", F, de(u"ListadoStockRegularizaciones"), Stock),
-    informe(u"Command14", u"Inventarios", F, de(u"ListadoStockInventarios"), Stock),
-    informe(u"Command13", u"Devoluciones a Proveedor", F, de(u"ListadoStockDevolucionesProveedor"), Stock),
-    informe(u"Command12", u"Traspasos a Consumo Interno", F, de(u"ListadoStockConsumoInterno"), Stock),
-    informe(u"Command11", u"Devoluciones de Consumo Interno a Almacen", F, de(u"ListadoStockConsumoInterno"), Stock),
-    informe(u"Command19", u"Baja de Productos de Consumo Interno", F, de(u"ListadoStockConsumoInterno"), Stock),
+constexpr std::array MovimientosDeStock{
+    informe(u"Command18", u"Entrada de Productos", F, de(u"ListadoStockEntradas"), DeStock),
+    informe(u"Command17", u"Ventas", F, de(u"ListadoStockVentas"), DeStock),
+    informe(u"Command16", u"Devoluciones de Ventas", F, de(u"ListadoStockDevolucionesVentas"), DeStock),
+    informe(u"Command15", u"Regularizaciones", F, de(u"ListadoStockRegularizaciones"), DeStock),
+    informe(u"Command14", u"Inventarios", F, de(u"ListadoStockInventarios"), DeStock),
+    informe(u"Command13", u"Devoluciones a Proveedor", F, de(u"ListadoStockDevolucionesProveedor"), DeStock),
+    informe(u"Command12", u"Traspasos a Consumo Interno", F, con<1>(u"ListadoStockConsumoInterno"), DeStock),
+    informe(u"Command11", u"Devoluciones de Consumo Interno a Almacen", F, con<2>(u"ListadoStockConsumoInterno"), DeStock),
+    informe(u"Command19", u"Baja de Productos de Consumo Interno", F, con<3>(u"ListadoStockConsumoInterno"), DeStock),
+};
 
-    grafico(u"Command2", u"Ventas por horas", F, u"facturacionXHoras", Bucle),
-    grafico(u"Command4", u"Numero visitas x mes", SinDialogo, u"VisitasXMes", Select | Bucle),
-    grafico(u"Command5", u"Por Secciones", F, u"porSecciones", Bucle),
-    grafico(u"Command6", u"Facturacion Anual", SinDialogo, u"FacturacionAnual", Select | Bucle),
-    grafico(u"Command7", u"Facturacion Mensual", dialogo(Dialogo::Meses), u"FacturacionMensual", Bucle),
-    grafico(u"Command8", u"Por Empleados", F, u"porEmpleado", Bucle),
-    grafico(u"Command9", u"Formas de Pago", F, u"formapago", Bucle),
+constexpr std::array Graficos{
+    grafico(u"Command2", u"Ventas por horas", F, {u"facturacionXHoras"}, Bucle),
+    grafico(u"Command4", u"Numero visitas x mes", SinDialogo, {u"VisitasXMes"}, Select | Bucle),
+    grafico(u"Command5", u"Por Secciones", F, {u"porSecciones"}, Bucle),
+    grafico(u"Command6", u"Facturacion Anual", SinDialogo, {u"FacturacionAnual"}, Select | Bucle),
+    grafico(u"Command7", u"Facturacion Mensual", dialogo(Dialogo::Meses), {u"FacturacionMensual"}, Bucle),
+    grafico(u"Command8", u"Por Empleados", F, {u"porEmpleado"}, Bucle),
+    grafico(u"Command9", u"Formas de Pago", F, {u"formapago"}, Bucle),
+};
 
+constexpr std::array FueraDeGrupo{
     accion(u"cmd_Ayuda", u"", hace(AccionMenu::Ayuda)),
     accion(u"cmd_Salir", u"Salir", hace(AccionMenu::Salir)),
     sinAccion(u"cmdListados", u"Listados anteriores a la migracion"),
@@ -234,11 +179,34 @@ constexpr FilaCatalogo Filas[] = {
     sinAccion(u"Command3", u""),
 };
 
+constexpr auto Filas =
+    juntas(enGrupo(Grupo::Frame1, Caja), enGrupo(Grupo::Frame5, Ventas), enGrupo(Grupo::Frame6, Estadisticas),
+           enGrupo(Grupo::Frame3, Generales), enGrupo(Grupo::fr_TallaColor, TallaColor),
+           enGrupo(Grupo::frAviso, EtiquetasDeClientes), enGrupo(Grupo::Frame10, Agendas), enGrupo(Grupo::Frame11, Bonos),
+           enGrupo(Grupo::Frame9, MovimientosDeStock), enGrupo(Grupo::Frame7, Graficos), FueraDeGrupo);
+
+constexpr GrupoMenu Grupos[] = {
+    {Grupo::Frame1, u"Frame1", u"Caja"},
+    {Grupo::Frame3, u"Frame3", u"Listados Generales"},
+    {Grupo::Frame5, u"Frame5", u"Listados de Ventas"},
+    {Grupo::Frame6, u"Frame6", u"Estadisticas"},
+    {Grupo::Frame7, u"Frame7", u"Graficos de venta"},
+    {Grupo::Frame9, u"Frame9", u"Movimientos de Stock"},
+    {Grupo::Frame10, u"Frame10", u"Agendas"},
+    {Grupo::Frame11, u"Frame11", u"Bonos"},
+    {Grupo::fr_TallaColor, u"fr_TallaColor", u""},
+};
+
 } // namespace
 
 std::span<const FilaCatalogo> catalogo()
 {
     return Filas;
+}
+
+std::span<const GrupoMenu> grupos()
+{
+    return Grupos;
 }
 
 const FilaCatalogo* busca(QStringView control)
@@ -250,13 +218,18 @@ const FilaCatalogo* busca(QStringView control)
     return nullptr;
 }
 
-QStringView constructorQueFalta(const FilaCatalogo& fila)
+QStringView queFalta(const FilaCatalogo& fila)
 {
     for (const OpcionConstructor& opcion : fila.constructores) {
         if (opcion.presente() && !opcion.constructor)
             return opcion.nombre;
     }
-    return {};
+    return fila.grafico.recolector ? QStringView{} : fila.grafico.nombre;
+}
+
+bool estaDisponible(const FilaCatalogo& fila)
+{
+    return (fila.clase == Clase::Informe || fila.clase == Clase::Grafico) && queFalta(fila).isEmpty();
 }
 
 } // namespace kestrane::catalogue

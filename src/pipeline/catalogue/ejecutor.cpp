@@ -3,6 +3,8 @@
 #include "pipeline/catalogue/catalogo.h"
 #include "pipeline/catalogue/condiciones.h"
 
+#include <algorithm>
+
 namespace kestrane::catalogue {
 
 using namespace Qt::StringLiterals;
@@ -35,9 +37,11 @@ void Ejecutor::haz(const FilaCatalogo& fila)
 
 void Ejecutor::ejecutaInforme(const FilaCatalogo& fila)
 {
-    if (!estaDisponible(fila))
+    if (!puedeEmpezar(fila)) {
+        m_pantalla.mensajes.Informa(AvisoNoDisponible.toString(), u"Listados"_s);
         return;
-    if (fila.marcas.testFlag(Marca::Select) && enServidor(m_contexto))
+    }
+    if (pideTienda(fila))
         m_pantalla.dialogos.Muestra(Dialogo::SelTienda, {});
     if (fila.preparacion)
         fila.preparacion(m_contexto);
@@ -45,13 +49,19 @@ void Ejecutor::ejecutaInforme(const FilaCatalogo& fila)
         trabaja(fila);
 }
 
-/// False, and the operator told, when the row cannot run yet.
-bool Ejecutor::estaDisponible(const FilaCatalogo& fila)
+/// False as long as a builder, chart or dialog of the row is missing.
+bool Ejecutor::puedeEmpezar(const FilaCatalogo& fila) const
 {
-    if (constructorQueFalta(fila).isEmpty())
-        return true;
-    m_pantalla.mensajes.Informa(u"El listado \"%1\" todavía no está disponible."_s.arg(fila.leyenda), u"Listados"_s);
-    return false;
+    const Dialogos& dialogos = m_pantalla.dialogos;
+    if (!estaDisponible(fila) || (pideTienda(fila) && !dialogos.Existe(Dialogo::SelTienda)))
+        return false;
+    const std::span<const Dialogo> suyos = fila.dialogos.lista();
+    return std::all_of(suyos.begin(), suyos.end(), [&dialogos](Dialogo dialogo) { return dialogos.Existe(dialogo); });
+}
+
+bool Ejecutor::pideTienda(const FilaCatalogo& fila) const
+{
+    return fila.marcas.testFlag(Marca::Select) && enServidor(m_contexto);
 }
 
 /// False when the operator left the dialogs.
@@ -68,7 +78,7 @@ bool Ejecutor::pideFiltros(const FilaCatalogo& fila)
 
 bool Ejecutor::muestraDialogos(const FilaCatalogo& fila)
 {
-    const QString titulo = (fila.titulo.isEmpty() ? fila.leyenda : fila.titulo).toString();
+    const QString titulo = tituloDe(fila);
     const CadenaDialogos& cadena = fila.dialogos;
     m_pantalla.dialogos.Muestra(cadena.dialogos[0], titulo);
     if (cadena.trasElPrimero && !cadena.trasElPrimero(m_contexto))
@@ -76,6 +86,13 @@ bool Ejecutor::muestraDialogos(const FilaCatalogo& fila)
     if (cadena.cuantos > 1)
         m_pantalla.dialogos.Muestra(cadena.dialogos[1], titulo);
     return true;
+}
+
+QString Ejecutor::tituloDe(const FilaCatalogo& fila) const
+{
+    if (!fila.titulo.isEmpty())
+        return fila.titulo.toString();
+    return m_pantalla.menu.Leyenda(fila.tituloDe.isEmpty() ? fila.control : fila.tituloDe);
 }
 
 void Ejecutor::tomaElDiaDeHoy()
@@ -114,7 +131,7 @@ void Ejecutor::porCadaTienda(const FilaCatalogo& fila)
 void Ejecutor::unaVez(const FilaCatalogo& fila)
 {
     if (fila.clase == Clase::Grafico)
-        m_pantalla.salida.MostrarGrafico(fila.grafico.toString());
+        muestraGrafico(fila.grafico);
     else
         construyeYMuestra(fila);
 }
@@ -124,14 +141,26 @@ void Ejecutor::construyeYMuestra(const FilaCatalogo& fila)
     const OpcionConstructor* const opcion = primera(fila.constructores, m_contexto);
     if (!opcion)
         return;
-    Listados listados{m_contexto, m_pantalla.progreso, m_reloj};
-    auto ambito = m_contexto.ConexionTienda.EmpiezaInforme();
-    opcion->constructor(listados);
-    ambito.TerminaInforme();
+    enAmbito(opcion->constructor);
     m_pantalla.salida.DrenaEventos();
     m_pantalla.salida.DrenaEventos();
     if (const Diseno* const diseno = primera(fila.disenos, m_contexto))
         muestra(*diseno);
+}
+
+/// Runs a builder or collector while the shop connection may remember its answers. Nothing else is in that scope: no drained event,
+/// no window.
+template<class Resultado>
+Resultado Ejecutor::enAmbito(Resultado (*trabajo)(Listados&))
+{
+    Listados listados{m_contexto, m_pantalla.progreso, m_reloj};
+    const auto ambito = m_contexto.ConexionTienda.EmpiezaInforme();
+    return trabajo(listados);
+}
+
+void Ejecutor::muestraGrafico(const OpcionGrafico& grafico)
+{
+    m_pantalla.salida.MostrarGrafico(grafico.nombre.toString(), [this, &grafico] { return enAmbito(grafico.recolector); });
 }
 
 void Ejecutor::muestra(const Diseno& diseno)

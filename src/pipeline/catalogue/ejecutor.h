@@ -11,22 +11,27 @@ public:
     /// What it is given outlives it.
     Ejecutor(ContextoEjecucion& contexto, const Pantalla& pantalla, const Reloj& reloj);
 
-    /// Dialogs, builder, printer and layout in the order of the button, once per store where the row says so. A row whose builder
-    /// does not exist yet says so in a message box and does nothing else. Every failure is an ErrorEjecucion, error 9 among them
-    /// when the stores are to be gone through and there is no list.
+    /// Dialogs, builder, printer and layout, or dialogs and chart, in the order of the button, once per store where the row says
+    /// so. A row whose builder, dialog or chart does not exist yet says so in a message box and does nothing else. Every failure is
+    /// an ErrorEjecucion, error 9 among them when the stores are to be gone through and there is no list.
     void ejecuta(const FilaCatalogo& fila);
 
 private:
     void ejecutaInforme(const FilaCatalogo& fila);
     void haz(const FilaCatalogo& fila);
-    [[nodiscard]] bool estaDisponible(const FilaCatalogo& fila);
+    [[nodiscard]] bool puedeEmpezar(const FilaCatalogo& fila) const;
+    [[nodiscard]] bool pideTienda(const FilaCatalogo& fila) const;
     [[nodiscard]] bool pideFiltros(const FilaCatalogo& fila);
     [[nodiscard]] bool muestraDialogos(const FilaCatalogo& fila);
+    [[nodiscard]] QString tituloDe(const FilaCatalogo& fila) const;
     void tomaElDiaDeHoy();
     void trabaja(const FilaCatalogo& fila);
     void porCadaTienda(const FilaCatalogo& fila);
     void unaVez(const FilaCatalogo& fila);
     void construyeYMuestra(const FilaCatalogo& fila);
+    template<class Resultado>
+    Resultado enAmbito(Resultado (*trabajo)(Listados&));
+    void muestraGrafico(const OpcionGrafico& grafico);
     void muestra(const Diseno& diseno);
 
     ContextoEjecucion& m_contexto;

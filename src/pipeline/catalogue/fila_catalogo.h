@@ -5,6 +5,7 @@
 #include <QFlags>
 
 #include <array>
+#include <span>
 
 /// One button of the menu as data. Where a report chooses (a layout by flavour, a builder by the dialog's answer) its row holds
 /// all choices in order, each with the condition under which it counts: the first one that holds is taken.
@@ -49,6 +50,7 @@ struct OpcionConstructor
     QStringView nombre;
     Constructor constructor = nullptr;
     Condicion cuando = nullptr;
+    qint16 numero = 0; ///< what `constructor` hands to a builder that serves several buttons; 0 for one that takes no number
 
     [[nodiscard]] constexpr bool presente() const { return !nombre.isEmpty(); }
 };
@@ -64,9 +66,20 @@ struct OpcionAccion
 };
 using Acciones = std::array<OpcionAccion, 2>;
 
+/// A chart; `recolector` is null as long as there is none.
+struct OpcionGrafico
+{
+    QStringView nombre;
+    Recolector recolector = nullptr;
+
+    [[nodiscard]] constexpr bool presente() const { return !nombre.isEmpty(); }
+};
+
 /// The dialogs of a row, shown one behind the other. `trasElPrimero` may end the report between the two.
 struct CadenaDialogos
 {
+    [[nodiscard]] std::span<const Dialogo> lista() const { return std::span{dialogos}.first(static_cast<size_t>(cuantos)); }
+
     std::array<Dialogo, 2> dialogos{};
     int cuantos = 0;
     bool (*trasElPrimero)(ContextoEjecucion&) = nullptr;
@@ -82,6 +95,21 @@ enum class Marca {
 Q_DECLARE_FLAGS(Marcas, Marca)
 Q_DECLARE_OPERATORS_FOR_FLAGS(Marcas)
 
+/// Where in the menu a button stands.
+enum class Grupo {
+    Ninguno, ///< outside all groups
+    Frame1,  ///< "Caja"
+    Frame3,  ///< "Listados Generales"
+    Frame5,  ///< "Listados de Ventas"
+    Frame6,  ///< "Estadisticas"
+    Frame7,  ///< "Graficos de venta"
+    Frame9,  ///< "Movimientos de Stock"
+    Frame10, ///< "Agendas"
+    Frame11, ///< "Bonos"
+    fr_TallaColor,
+    frAviso, ///< the panel of the client labels
+};
+
 enum class Clase {
     Informe,
     Grafico,
@@ -94,13 +122,15 @@ struct FilaCatalogo
     Clase clase = Clase::SinAccion;
     QStringView control; ///< name of the button
     QStringView leyenda; ///< its caption
+    Grupo grupo = Grupo::Ninguno;
     CadenaDialogos dialogos{};
     Constructores constructores{};
     Disenos disenos{};
     Marcas marcas{};
     void (*preparacion)(ContextoEjecucion&) = nullptr; ///< what the button sets before its dialogs
-    QStringView titulo{};                              ///< for frmFechas, the caption when empty
-    QStringView grafico{};                             ///< name of the chart
+    QStringView titulo{};                              ///< for frmFechas; when empty, the caption of a button
+    QStringView tituloDe{};                            ///< that button, where it is another than the row's own
+    OpcionGrafico grafico{};
     Acciones acciones{};
 };
 

@@ -1,7 +1,5 @@
 #include "pipeline/catalogue/pasos.h"
 
-#include "platform/runtime/conversiones.h"
-
 namespace kestrane::catalogue {
 
 using namespace Qt::StringLiterals;
@@ -15,7 +13,7 @@ bool tomaClienteBuscado(ContextoEjecucion& contexto)
 {
     if (contexto.ClienteBuscado.isEmpty() || contexto.ClienteBuscado == u"-1")
         return false;
-    contexto.filtros.cliente = aEntero32(Valor{contexto.ClienteBuscado}, contexto.ConexionTienda.entorno().regional());
+    contexto.filtros.cliente = contexto.ClienteBuscado;
     return true;
 }
 

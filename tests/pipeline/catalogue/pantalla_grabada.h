@@ -1,11 +1,13 @@
 #pragma once
 
-#include "pipeline/pantalla.h"
+#include "pipeline/catalogue/nombres.h"
 #include "run_context/contexto_ejecucion.h"
 
+#include <QList>
 #include <QStringList>
 
 #include <functional>
+#include <utility>
 
 namespace kestrane::prueba {
 
@@ -17,34 +19,56 @@ public:
 
     /// What the operator does in a dialog; without it every dialog is accepted.
     std::function<void(Dialogo)> alMostrar = [this](Dialogo) { m_contexto.FiltroAceptado = true; };
+    /// What else happens while a builder or collector is at work.
+    std::function<void()> alConstruir = [] {};
+    /// What a chart's window does with its data.
+    std::function<void()> alRecoger = [] {};
+    /// What the operator does when events are drained next: once.
+    std::function<void()> alDrenar;
+    /// Dialogs that are not there yet.
+    QList<Dialogo> faltan;
     QStringList sucesos;
+    QString ultimoTitulo;
+    MatrizGrafico ultimaMatriz;
 
     [[nodiscard]] Pantalla pantalla() { return {*this, *this, *this, *this, *this}; }
 
-    void Haz(AccionMenu accion) override { anota(QStringLiteral("accion %1").arg(static_cast<int>(accion))); }
+    [[nodiscard]] QString Leyenda(QStringView control) const override { return u'<' + control.toString() + u'>'; }
+    void Haz(AccionMenu accion) override { anota(QStringLiteral("abre ") + nombre(accion)); }
     void Repinta() override { anota(QStringLiteral("repinta")); }
     void MuestraInfo() override { anota(QStringLiteral("aviso")); }
     void OcultaInfo() override { anota(QStringLiteral("sin aviso")); }
 
+    [[nodiscard]] bool Existe(Dialogo dialogo) const override { return !faltan.contains(dialogo); }
     void Muestra(Dialogo dialogo, const QString& titulo) override
     {
-        anota(QStringLiteral("dialogo %1").arg(static_cast<int>(dialogo)));
+        anota(nombre(dialogo));
         ultimoTitulo = titulo;
         alMostrar(dialogo);
     }
-    QString ultimoTitulo;
 
     void Muestra() override { anota(QStringLiteral("parar")); }
     /// The builders of these tests show themselves by it.
-    void IncrementaBarra() override { anota(QStringLiteral("construye[") + m_contexto.TiendaSeleccionada + u']'); }
+    void IncrementaBarra() override
+    {
+        anota(QStringLiteral("construye[") + m_contexto.TiendaSeleccionada + u']');
+        alConstruir();
+    }
     void cerrar() override { anota(QStringLiteral("cerrar")); }
 
-    void DrenaEventos() override { anota(QStringLiteral("drena")); }
+    void DrenaEventos() override
+    {
+        anota(QStringLiteral("drena"));
+        if (const auto pulsacion = std::exchange(alDrenar, nullptr))
+            pulsacion();
+    }
     void DarImpresora(const QString& nombre) override { anota(QStringLiteral("impresora ") + nombre); }
     void ImprimirReport(const QString& nombre) override { anota(QStringLiteral("imprime ") + nombre); }
-    void MostrarGrafico(const QString& nombre) override
+    void MostrarGrafico(const QString& nombre, const DatosDeGrafico& datos) override
     {
-        anota(QStringLiteral("grafico ") + nombre + u'[' + m_contexto.TiendaSeleccionada + u']');
+        anota(QStringLiteral("grafico ") + nombre);
+        ultimaMatriz = datos();
+        alRecoger();
     }
 
     void Informa(const QString& texto, const QString& titulo) override { anota(titulo + QStringLiteral(": ") + texto); }

@@ -1,6 +1,6 @@
 #include "pipeline/catalogue/pasos.h"
 
-#include "platform/runtime/error_ejecucion.h"
+#include "platform/runtime/soporte.h"
 
 #include <gtest/gtest.h>
 
@@ -24,22 +24,18 @@ protected:
 
 TEST_F(Pasos, NoClientIsAnEmptyTextOrMinusOne)
 {
+    m_contexto.filtros.cliente = u"17"_s;
     EXPECT_FALSE(toma({}));
     EXPECT_FALSE(toma(u"-1"_s));
-    EXPECT_EQ(m_contexto.filtros.cliente, 0);
+    EXPECT_EQ(m_contexto.filtros.cliente, u"17"_s);
 }
 
-TEST_F(Pasos, WhatIsNoNumberEndsTheRun)
+TEST_F(Pasos, TheClientThatWasFoundBecomesTheFiltersAsItStands)
 {
-    EXPECT_THROW(toma(u"Ana"_s), ErrorEjecucion);
-}
-
-TEST_F(Pasos, TheClientThatWasFoundBecomesTheFilters)
-{
-    EXPECT_TRUE(toma(u"17"_s));
-    EXPECT_EQ(m_contexto.filtros.cliente, 17);
-    EXPECT_TRUE(toma(u"0"_s));
-    EXPECT_EQ(m_contexto.filtros.cliente, 0);
+    for (const QString& codigo : {u"17"_s, u"0"_s, u" 17"_s, u"99999999999"_s, u"Ana"_s}) {
+        EXPECT_TRUE(toma(codigo));
+        EXPECT_EQ(m_contexto.filtros.cliente, codigo);
+    }
 }
 
 TEST_F(Pasos, EachButtonSetsItsOwn)
