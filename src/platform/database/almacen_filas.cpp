@@ -110,11 +110,13 @@ bool LectorFilas::siguiente()
         return false;
     m_conocidas = 0;
     m_esDeFichero = m_fila >= m_almacen->m_filasEnMemoria;
-    ++m_fila;
     if (m_esDeFichero) {
+        // A row that cannot be read stays the next one: it is not skipped.
         m_enFichero = m_almacen->m_fichero->lee(m_enFichero, m_leida);
+        ++m_fila;
         return true;
     }
+    ++m_fila;
     m_inicio = m_siguiente;
     quint32 bytes = 0;
     std::memcpy(&bytes, m_almacen->m_memoria.datos() + m_inicio, sizeof bytes);

@@ -4,9 +4,17 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace kestrane::database {
 
 namespace {
+
+/// Whether sending the same row again would meet the same error: kept, it would stop each later sending.
+bool esDeLaFila(const ErrorMotor& error)
+{
+    return error.categoria() == ErrorMotor::Categoria::Restriccion || error.categoria() == ErrorMotor::Categoria::Sentencia;
+}
 
 /// The rows of one table behind the other, with the columns that any of them wrote.
 constexpr qsizetype SinLimite = std::numeric_limits<qsizetype>::max();
@@ -97,10 +105,19 @@ void AltasPendientes::anade(const jet::Tabla& tabla, const Edicion& fila)
 
 void AltasPendientes::envia(MotorBase& motor)
 {
-    for (const auto& lote : m_lotes) {
-        if (lote->filas.filas() > 0)
-            enviaLote(*lote, motor);
+    const int antes = m_rechazadas;
+    m_primerRechazo.reset();
+    try {
+        for (const auto& lote : m_lotes) {
+            if (lote->filas.filas() > 0)
+                enviaLote(*lote, motor);
+        }
+    } catch (const ErrorEjecucion&) {
+        // What was dropped is told before what only waits: that trouble comes again with the next sending.
+        avisaDeRechazos(antes);
+        throw;
     }
+    avisaDeRechazos(antes);
 }
 
 void AltasPendientes::enviaLote(Lote& lote, MotorBase& motor)
@@ -108,7 +125,7 @@ void AltasPendientes::enviaLote(Lote& lote, MotorBase& motor)
     try {
         motor.insertaFilas(lote.tabla, lote.columnas, lote.filas);
     } catch (const ErrorMotor& error) {
-        if (error.categoria() != ErrorMotor::Categoria::Restriccion)
+        if (!esDeLaFila(error))
             throw;
         return enviaUnaAUna(lote, motor);
     }
@@ -119,25 +136,45 @@ void AltasPendientes::enviaLote(Lote& lote, MotorBase& motor)
 void AltasPendientes::enviaUnaAUna(Lote& lote, MotorBase& motor)
 {
     AlmacenFilas quedan{lote.filas.columnas(), SinLimite};
-    std::exception_ptr primero;
+    std::exception_ptr impedimento;
     for (lote.filas.alPrincipio(); lote.filas.siguiente();) {
-        AlmacenFilas& destino = quedan;
-        if (primero) {
-            copiaFila(lote.filas, destino);
-            continue;
-        }
         AlmacenFilas una{lote.filas.columnas(), SinLimite};
-        copiaFila(lote.filas, una);
+        copiaFila(lote.filas, impedimento ? quedan : una);
+        if (impedimento)
+            continue;
         try {
             motor.insertaFilas(lote.tabla, lote.columnas, una);
-        } catch (const ErrorEjecucion&) {
-            primero = std::current_exception();
+        } catch (const ErrorMotor& error) {
+            if (esDeLaFila(error)) {
+                rechaza(error, lote.tabla);
+                continue;
+            }
+            impedimento = std::current_exception();
+            copiaFila(lote.filas, quedan);
         }
     }
     m_filas -= static_cast<int>(lote.filas.filas() - quedan.filas());
     lote.filas = std::move(quedan);
-    if (primero)
-        std::rethrow_exception(primero);
+    if (impedimento)
+        std::rethrow_exception(impedimento);
+}
+
+void AltasPendientes::rechaza(const ErrorMotor& error, const jet::Tabla& tabla)
+{
+    ++m_rechazadas;
+    if (!m_primerRechazo)
+        m_primerRechazo = error.conContexto(u"La fila no se ha guardado en la tabla \"%1\"."_s.arg(tabla.nombre));
+}
+
+void AltasPendientes::avisaDeRechazos(int antes)
+{
+    if (!m_primerRechazo)
+        return;
+    const ErrorEjecucion primero = *std::exchange(m_primerRechazo, std::nullopt);
+    const int otras = m_rechazadas - antes - 1;
+    if (otras == 0)
+        throw primero;
+    throw primero.conContexto(u"Otras %1 filas tampoco se han guardado."_s.arg(otras));
 }
 
 void AltasPendientes::olvidaTablas()

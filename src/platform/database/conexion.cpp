@@ -68,7 +68,7 @@ void Conexion::Close()
     if (!m_sesion)
         return;
     const auto cerrada = std::move(m_sesion);
-    cerrada->base().envia();
+    cerrada->base().enviaYAvisa();
 }
 
 AmbitoInforme Conexion::EmpiezaInforme()

@@ -21,7 +21,7 @@ class Conexion
 public:
     /// Closed. `entorno` must outlive it.
     explicit Conexion(EntornoDatos& entorno);
-    /// Closes; what cannot be sent any more is lost without a word.
+    /// Closes without a word; of rows that could not be sent EntornoDatos::termina tells.
     ~Conexion();
     Conexion(const Conexion&) = delete;
     Conexion& operator=(const Conexion&) = delete;
@@ -35,7 +35,8 @@ public:
     void Open(const QString& cadena = {}, const QString& usuario = {}, const QString& clave = {});
     /// Runs a statement without a result. Returns the rows inserted, changed or deleted (0 of a query).
     qint64 Execute(const QString& sentencia);
-    /// Sends the gathered rows and ends the recordsets that are open on it. Harmless on a closed connection.
+    /// Sends the gathered rows and ends the recordsets that are open on it. Harmless on a closed connection. Throws when rows
+    /// were refused or could not be sent; closed it is all the same.
     void Close();
 
     [[nodiscard]] bool abierta() const { return m_sesion != nullptr; }

@@ -24,6 +24,19 @@ void Cursor::recuerda(std::shared_ptr<const AlmacenFilas> filas)
     m_completo = true;
 }
 
+void Cursor::exigeSano() const
+{
+    if (m_error)
+        std::rethrow_exception(m_error);
+}
+
+void Cursor::termina() noexcept
+{
+    m_completo = true;
+    sale();
+    m_sentencia->reinicia();
+}
+
 bool Cursor::leeUna()
 {
     if (m_completo)
@@ -32,20 +45,18 @@ bool Cursor::leeUna()
         if (m_sentencia->siguiente(m_filas))
             return true;
     } catch (...) {
+        m_error = std::current_exception();
         m_filas.abandonaFila();
-        m_completo = true;
-        sale();
-        m_sentencia->reinicia();
+        termina();
         throw;
     }
-    m_completo = true;
-    sale();
-    m_sentencia->reinicia();
+    termina();
     return false;
 }
 
 bool Cursor::hay(qsizetype filas)
 {
+    exigeSano();
     while (leidas() < filas) {
         if (!leeUna())
             return false;
@@ -55,12 +66,23 @@ bool Cursor::hay(qsizetype filas)
 
 void Cursor::completa()
 {
+    exigeSano();
     while (leeUna()) {
+    }
+}
+
+void Cursor::completaCallando() noexcept
+{
+    try {
+        completa();
+    } catch (...) {
+        Q_ASSERT(m_error); // it is kept
     }
 }
 
 bool Cursor::avanza()
 {
+    exigeSano();
     if (m_lector.siguiente())
         return true;
     if (m_completo)
@@ -88,11 +110,9 @@ std::shared_ptr<const AlmacenFilas> Cursor::comparte()
 
 void Cursor::suelta() noexcept
 {
-    if (!m_completo) {
-        m_sentencia->reinicia();
-        m_completo = true;
-        sale();
-    }
+    if (!m_completo)
+        termina();
+    m_error = nullptr;
     m_recordadas.reset();
     m_filas.vacia();
 }

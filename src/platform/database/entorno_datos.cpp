@@ -5,6 +5,7 @@
 #include "platform/database/sqlite/sqlite_motor.h"
 
 #include <QDir>
+#include <QtGlobal>
 
 using namespace Qt::StringLiterals;
 
@@ -25,7 +26,26 @@ EntornoDatos::EntornoDatos(OpcionesDatos opciones) : m_opciones{std::move(opcion
 
 EntornoDatos::~EntornoDatos()
 {
-    enviaPendientes();
+    try {
+        termina();
+    } catch (const ErrorEjecucion& error) {
+        qWarning("%s", error.what()); // nobody is left to whom it could be told
+    }
+}
+
+void EntornoDatos::termina()
+{
+    std::exception_ptr primero;
+    for (const auto& base : m_bases) {
+        try {
+            base->enviaYAvisa();
+        } catch (const ErrorEjecucion&) {
+            if (!primero)
+                primero = std::current_exception();
+        }
+    }
+    if (primero)
+        std::rethrow_exception(primero);
 }
 
 bool EntornoDatos::enviaPendientes() noexcept
@@ -56,7 +76,7 @@ std::shared_ptr<BaseCompartida> EntornoDatos::base(const QString& dsn)
 {
     auto& base = m_bases[dsn.toCaseFolded()];
     if (!base)
-        base = std::make_shared<BaseCompartida>();
+        base = std::make_shared<BaseCompartida>(dsn, m_opciones.espera);
     return base;
 }
 

@@ -63,6 +63,9 @@ public:
     /// Sends the added rows that still wait, of all databases, for the program's error handler and its end. Never throws; false
     /// when some could not be sent.
     bool enviaPendientes() noexcept;
+    /// For the program's normal end, once its connections have done their work: sends what waits. Throws when rows could not be
+    /// sent, or were refused when a recordset or a connection went without being closed.
+    void termina();
 
     /// Opens the engine of a data source. ErrorEjecucion ConexionImposible.
     [[nodiscard]] std::unique_ptr<MotorBase> abre(const DestinoConexion& destino) const;

@@ -65,8 +65,10 @@ void FicheroFilas::carga(qsizetype posicion, qsizetype bytes)
     m_entrada.recorta(0);
     m_inicioEntrada = posicion;
     char* const destino = m_entrada.anade(pedidos);
-    if (pedidos < bytes || !m_fichero.seek(posicion) || m_fichero.read(destino, pedidos) != pedidos)
+    if (pedidos < bytes || !m_fichero.seek(posicion) || m_fichero.read(destino, pedidos) != pedidos) {
+        m_entrada.recorta(0); // nothing of it is good
         sinDisco(m_fichero);
+    }
 }
 
 } // namespace kestrane::database

@@ -8,6 +8,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <chrono>
 #include <memory>
 #include <span>
 #include <variant>
@@ -56,6 +57,9 @@ public:
     /// Inserts all rows of `filas` (one field for each of `columnas`, indices into tabla.columnas) in order, as one transaction.
     /// Nothing is inserted when it throws.
     virtual void insertaFilas(const jet::Tabla& tabla, std::span<const int> columnas, AlmacenFilas& filas) = 0;
+
+    /// From now on waits that long for another program's lock. An engine that never waits has nothing to do.
+    virtual void ponEspera(std::chrono::milliseconds) {}
 
     /// True after an error that means that the connection is gone: the next use must open anew.
     [[nodiscard]] virtual bool perdida() const = 0;

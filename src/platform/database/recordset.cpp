@@ -239,6 +239,7 @@ void Recordset::anadeNueva()
     m_edicion->escrita();
     m_fila = Fila::Anadida;
     ++m_anadidas;
+    m_sesion->enviaSiHayMuchas(); // the row is there, whatever comes of it
 }
 
 Valor Recordset::identidad() const

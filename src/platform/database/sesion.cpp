@@ -121,12 +121,13 @@ Sesion::Abierta Sesion::preparada(const QString& sentencia)
 
 Cursor& Sesion::consulta(PlanSentencia& plan, const QString& sentencia)
 {
+    m_base->antesDeLeer(); // the rows that it sends are none of this statement's
     Cursor* cursor = nullptr;
     try {
-        m_base->antesDeLeer();
         const auto valores = m_ligador.liga(plan.traduccion().parametros, m_extractor.literales());
         cursor = &plan.toma(*m_motor, m_entorno.opciones().limiteFilas);
         cursor->ejecuta(valores, m_base->aMedias());
+        cursor->anotaEscrituras(m_base->escrituras());
         return *cursor;
     } catch (const ErrorEjecucion& error) {
         if (cursor)
@@ -142,8 +143,8 @@ qint64 Sesion::ejecuta(const QString& sentencia)
         cierra(plan, consulta(plan, sentencia));
         return 0;
     }
+    m_base->antesDeEscribir();
     try {
-        m_base->antesDeEscribir();
         SentenciaMotor& ejecutable = plan.ejecutable(*m_motor);
         ejecutable.ejecuta(m_ligador.liga(plan.traduccion().parametros, m_extractor.literales()));
         ejecutable.reinicia();
@@ -157,7 +158,12 @@ void Sesion::anade(const jet::Tabla& tabla, const Edicion& fila)
 {
     if (tabla.tieneClavesUnicas || !fila.pendiente() || faltaObligatoria(tabla, fila))
         return anadeYa(tabla, fila);
-    m_base->anade(tabla, fila, m_entorno.opciones().filasPorEnvio);
+    m_base->anade(tabla, fila);
+}
+
+void Sesion::enviaSiHayMuchas()
+{
+    m_base->enviaSiHay(m_entorno.opciones().filasPorEnvio);
 }
 
 void Sesion::anadeYa(const jet::Tabla& tabla, const Edicion& fila)

@@ -61,6 +61,8 @@ public:
     qint64 ejecuta(const QString& sentencia);
     /// Adds a row: gathered when the database has no say in it, else at once.
     void anade(const jet::Tabla& tabla, const Edicion& fila);
+    /// Sends the gathered rows when there are many of them.
+    void enviaSiHayMuchas();
     /// Writes the assigned columns of the row with that identity.
     void modifica(const jet::Tabla& tabla, const Edicion& fila, const Valor& identidad);
     void borra(const jet::Tabla& tabla, const Valor& identidad);

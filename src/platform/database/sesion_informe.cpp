@@ -11,6 +11,19 @@ namespace {
 /// Rows that are read at closing to see whether an answer is whole: the usual look-up reads one row of one.
 constexpr qsizetype FilasPorSaber = 4;
 
+/// Keeps a plan in the cache while others are put there.
+class PlanEnUso
+{
+public:
+    explicit PlanEnUso(PlanSentencia& plan) : m_plan{plan} { m_plan.usa(); }
+    ~PlanEnUso() { m_plan.deja(); }
+    PlanEnUso(const PlanEnUso&) = delete;
+    PlanEnUso& operator=(const PlanEnUso&) = delete;
+
+private:
+    PlanSentencia& m_plan;
+};
+
 } // namespace
 
 Sesion::Abierta Sesion::abre(const QString& sentencia)
@@ -24,6 +37,7 @@ Sesion::Abierta Sesion::abre(const QString& sentencia)
     PlanSentencia& plan = prepara(sentencia);
     if (!plan.esConsulta())
         sinFilas();
+    const PlanEnUso enUso{plan};
     if (!m_informe->anticipaciones().empty()) {
         if (const Abierta leida = adelantada(sentencia, plan); leida.plan)
             return leida;
@@ -41,6 +55,7 @@ Sesion::Abierta Sesion::deMemoria(PlanSentencia& plan, std::shared_ptr<const Alm
 {
     Cursor& cursor = plan.toma(*m_motor, m_entorno.opciones().limiteFilas);
     cursor.recuerda(std::move(filas));
+    cursor.anotaEscrituras(m_base->escrituras());
     return {&plan, &cursor};
 }
 
@@ -89,7 +104,8 @@ std::shared_ptr<const AlmacenFilas> Sesion::leeAdelantado(Anticipacion& anticipa
 void Sesion::cierra(PlanSentencia& plan, Cursor& cursor, const QString& sentencia) noexcept
 {
     try {
-        if (!sentencia.isEmpty() && m_informe->activo() && m_informe->respuestas().repetida(sentencia)) {
+        const bool vale = cursor.escrituras() == m_base->escrituras();
+        if (vale && !sentencia.isEmpty() && m_informe->activo() && m_informe->respuestas().repetida(sentencia)) {
             static_cast<void>(cursor.hay(cursor.leidas() + FilasPorSaber));
             const bool cabe = cursor.completo() && cursor.filas().bytes() < m_informe->respuestas().bytesMaximos() / 4;
             if (cabe && !cursor.filas().usaFichero())

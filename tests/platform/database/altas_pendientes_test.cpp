@@ -35,7 +35,9 @@ public:
                 fila +=
                     QString::number(columnas[static_cast<size_t>(i)]) + u'=' + (valor.esNulo() ? u"null"_s : valor.texto()) + u' ';
                 if (!valor.esNulo() && m_rechazadas.contains(valor.texto()))
-                    throw ErrorMotor(Categoria::Restriccion, ErrorEjecucion::SentenciaRechazada, valor.texto());
+                    throw ErrorMotor(m_motivo, ErrorEjecucion::SentenciaRechazada, valor.texto());
+                if (!valor.esNulo() && filas.filas() == 1 && valor.texto() == m_seBloqueaEn)
+                    throw ErrorMotor(Categoria::Ocupada, ErrorEjecucion::SentenciaRechazada, u"ocupada"_s);
             }
             nuevas << fila.trimmed();
         }
@@ -46,6 +48,8 @@ public:
 
     QStringList m_filas;
     std::set<QString> m_rechazadas;
+    Categoria m_motivo = Categoria::Restriccion;
+    QString m_seBloqueaEn; ///< when it comes alone
     bool m_lleno = false;
     int m_envios = 0;
 };
@@ -111,10 +115,44 @@ TEST_F(AltasPendientesTest, ARefusedRowIsDroppedAndTakesNoOtherAlong)
     m_motor.m_rechazadas = {u"mala"_s};
     for (const QString& texto : {u"a"_s, u"mala"_s, u"b"_s, u"c"_s})
         anade(m_t, {{0, texto}});
-    EXPECT_EQ(falloAlEnviar(), u"mala");
-    EXPECT_EQ(m_motor.m_filas, QStringList{u"t:0=a"_s});
-    EXPECT_EQ(m_altas.filas(), 2) << "those behind it wait on";
+    EXPECT_EQ(falloAlEnviar(), u"mala\nLa fila no se ha guardado en la tabla \"t\".");
+    EXPECT_EQ(m_motor.m_filas, (QStringList{u"t:0=a"_s, u"t:0=b"_s, u"t:0=c"_s}));
+    EXPECT_EQ(m_altas.rechazadas(), 1);
     EXPECT_EQ(falloAlEnviar(), u"");
+}
+
+TEST_F(AltasPendientesTest, SeveralRefusedRowsAreToldAtOnceAndOtherTablesAreSentToo)
+{
+    const jet::Tabla otra = tabla(u"otra"_s);
+    m_motor.m_rechazadas = {u"mala"_s, u"peor"_s};
+    for (const QString& texto : {u"peor"_s, u"a"_s, u"mala"_s})
+        anade(m_t, {{0, texto}});
+    anade(otra, {{0, u"b"_s}});
+    EXPECT_EQ(falloAlEnviar(), u"peor\nLa fila no se ha guardado en la tabla \"t\".\nOtras 1 filas tampoco se han guardado.");
+    EXPECT_EQ(m_motor.m_filas, (QStringList{u"t:0=a"_s, u"otra:0=b"_s}));
+}
+
+TEST_F(AltasPendientesTest, ARowThatTheEngineDoesNotUnderstandDoesNotStopLaterSendings)
+{
+    m_motor.m_rechazadas = {u"mala"_s};
+    m_motor.m_motivo = Categoria::Sentencia;
+    anade(m_t, {{0, u"mala"_s}});
+    anade(m_t, {{0, u"a"_s}});
+    EXPECT_TRUE(falloAlEnviar().startsWith(u"mala"));
+    EXPECT_EQ(m_motor.m_filas, QStringList{u"t:0=a"_s});
+    EXPECT_TRUE(m_altas.vacia());
+}
+
+TEST_F(AltasPendientesTest, ALockMetWhileRowsGoOneByOneLosesNone)
+{
+    m_motor.m_rechazadas = {u"mala"_s};
+    m_motor.m_seBloqueaEn = u"b"_s;
+    for (const QString& texto : {u"a"_s, u"b"_s, u"mala"_s, u"c"_s})
+        anade(m_t, {{0, texto}});
+    EXPECT_EQ(falloAlEnviar(), u"ocupada");
+    EXPECT_EQ(m_altas.filas(), 3);
+    m_motor.m_seBloqueaEn.clear();
+    EXPECT_TRUE(falloAlEnviar().startsWith(u"mala"));
     EXPECT_EQ(m_motor.m_filas, (QStringList{u"t:0=a"_s, u"t:0=b"_s, u"t:0=c"_s}));
 }
 

@@ -18,14 +18,15 @@ protected:
     {
         Edicion fila{tabla()};
         fila.pon(0, 1);
-        m_base.anade(tabla(), fila, maximo);
+        m_base.anade(tabla(), fila);
+        m_base.enviaSiHay(maximo);
     }
     const jet::Tabla& tabla() { return *m_motor.catalogo().tabla(u"t"); }
     std::string enviadas() { return m_fichero.consulta("select count(*) from t"); }
 
     sqlite::BaseDePrueba m_fichero{"create table t (a LONG)"};
     sqlite::SqliteMotor m_motor{{m_fichero.fichero()}};
-    BaseCompartida m_base;
+    BaseCompartida m_base{QStringLiteral("Prueba"), std::chrono::seconds{5}};
 };
 
 TEST_F(BaseCompartidaTest, RowsWaitUntilThereAreEnough)
@@ -72,11 +73,26 @@ TEST_F(BaseCompartidaTest, AWriteReadsTheOpenQueriesToTheirEnds)
     EXPECT_EQ(abierto.leidas(), 5);
 }
 
+TEST_F(BaseCompartidaTest, AnOpenQueryThatCannotBeReadDisturbsNoWrite)
+{
+    SentenciaDeFilas::Vista vista;
+    Cursor roto{std::make_unique<SentenciaDeFilas>(5, vista, 2), 1, AlmacenFilas::LimitePorDefecto};
+    roto.ejecuta({}, m_base.aMedias());
+    EXPECT_NO_THROW(m_base.antesDeEscribir());
+    EXPECT_THROW(static_cast<void>(roto.hay(5)), ErrorMotor);
+}
+
 TEST_F(BaseCompartidaTest, WithoutAnEngineRowsWaitAndTheErrorSaysSo)
 {
     anade(9);
     m_base.sale(m_motor);
-    EXPECT_THROW(m_base.envia(), ErrorMotor);
+    try {
+        m_base.envia();
+        FAIL();
+    } catch (const ErrorMotor& error) {
+        EXPECT_TRUE(error.descripcion().contains(u"\"Prueba\""));
+        EXPECT_TRUE(error.descripcion().contains(u"1 fila"));
+    }
     EXPECT_FALSE(m_base.enviaSinError());
     m_base.entra(m_motor);
     EXPECT_TRUE(m_base.enviaSinError());

@@ -62,16 +62,39 @@ TEST_F(CursorTest, PastTheLastRowItStays)
     EXPECT_FALSE(una.avanza());
 }
 
-TEST_F(CursorTest, AnErrorInTheMidstEndsItAndKeepsTheRowsBefore)
+TEST_F(CursorTest, AfterARowThatCannotBeReadEachUseMeetsTheErrorAgain)
 {
     Cursor rota = cursor(5, 3);
     rota.ejecuta({}, m_aMedias);
+    EXPECT_TRUE(rota.avanza());
     EXPECT_THROW(rota.completa(), ErrorMotor);
     EXPECT_TRUE(m_aMedias.solo());
     EXPECT_EQ(m_vista.reinicios, 1);
-    EXPECT_EQ(rota.leidas(), 2);
-    EXPECT_TRUE(rota.avanza());
-    EXPECT_EQ(rota.lector().valor(0), Valor{1});
+    EXPECT_FALSE(rota.completo());
+    EXPECT_THROW(rota.completa(), ErrorMotor);
+    EXPECT_THROW(static_cast<void>(rota.hay(1)), ErrorMotor);
+    EXPECT_THROW(static_cast<void>(rota.avanza()), ErrorMotor);
+    EXPECT_EQ(m_vista.pedidas, 3) << "the engine is not asked again";
+    EXPECT_EQ(rota.lector().valor(0), Valor{1}) << "the current row stays";
+}
+
+TEST_F(CursorTest, CompletedForSomebodyElseItKeepsTheErrorForItsOwnUser)
+{
+    Cursor rota = cursor(5, 3);
+    rota.ejecuta({}, m_aMedias);
+    rota.completaCallando();
+    EXPECT_TRUE(m_aMedias.solo());
+    EXPECT_THROW(static_cast<void>(rota.avanza()), ErrorMotor);
+}
+
+TEST_F(CursorTest, LetGoAndRunAgainItHasForgottenTheError)
+{
+    Cursor rota = cursor(5, 3);
+    rota.ejecuta({}, m_aMedias);
+    rota.completaCallando();
+    rota.suelta();
+    rota.ejecuta({}, m_aMedias);
+    EXPECT_TRUE(rota.hay(2));
 }
 
 TEST_F(CursorTest, LetGoItEndsTheEnginesCursorOnlyWhereOneIsOpen)

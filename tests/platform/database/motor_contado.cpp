@@ -1,7 +1,6 @@
 #include "platform/database/motor_contado.h"
 
 #include "platform/database/error_motor.h"
-#include "platform/database/sqlite/sqlite_motor.h"
 
 namespace kestrane::database {
 
@@ -37,44 +36,75 @@ private:
 class MotorContado final : public MotorBase
 {
 public:
-    MotorContado(const QString& fichero, Pasos& pasos) : m_propio{{fichero}}, m_pasos{pasos}, m_numero{++pasos.abiertos} {}
+    MotorContado(std::unique_ptr<MotorBase> propio, Pasos& pasos)
+        : m_propio{std::move(propio)}
+        , m_pasos{pasos}
+        , m_numero{++pasos.abiertos}
+    {
+    }
 
-    jet::Motor clase() const override { return m_propio.clase(); }
-    jet::Catalogo& catalogo() override { return m_propio.catalogo(); }
+    jet::Motor clase() const override { return m_propio->clase(); }
+    jet::Catalogo& catalogo() override { return m_propio->catalogo(); }
     std::unique_ptr<SentenciaMotor> prepara(const QByteArray& sql, std::span<const jet::TipoColumna> parametros,
                                             std::span<const jet::TipoColumna> resultado) override
     {
         ++m_pasos.preparadas;
-        return std::make_unique<SentenciaContada>(m_propio.prepara(sql, parametros, resultado), m_pasos);
+        return std::make_unique<SentenciaContada>(m_propio->prepara(sql, parametros, resultado), m_pasos);
     }
     void insertaFilas(const jet::Tabla& tabla, std::span<const int> columnas, AlmacenFilas& filas) override
     {
         if (perdida())
             throw ErrorMotor(ErrorMotor::Categoria::ConexionPerdida, ErrorEjecucion::SentenciaRechazada,
                              QStringLiteral("Perdida."));
-        if (m_pasos.fallan)
-            throw ErrorMotor(ErrorMotor::Categoria::SinSitio, ErrorEjecucion::SentenciaRechazada,
-                             QStringLiteral("No queda sitio."));
+        fallaSiToca();
         ++m_pasos.envios;
         m_pasos.filasEnviadas += static_cast<int>(filas.filas());
-        m_propio.insertaFilas(tabla, columnas, filas);
+        m_propio->insertaFilas(tabla, columnas, filas);
     }
-    bool perdida() const override { return m_numero <= m_pasos.cortados; }
+    void ponEspera(std::chrono::milliseconds espera) override
+    {
+        m_espera = espera;
+        m_propio->ponEspera(espera);
+    }
+    bool perdida() const override { return m_numero <= m_pasos.cortados || m_propio->perdida(); }
 
 private:
-    sqlite::SqliteMotor m_propio;
+    void fallaSiToca()
+    {
+        using enum ErrorMotor::Categoria;
+        switch (m_pasos.losEnvios) {
+        case Pasos::Envios::Bien:
+            return;
+        case Pasos::Envios::DiscoLleno:
+            throw ErrorMotor(SinSitio, ErrorEjecucion::SentenciaRechazada, QStringLiteral("No queda sitio."));
+        case Pasos::Envios::Bloqueados:
+            m_pasos.esperado += m_espera;
+            throw ErrorMotor(Ocupada, ErrorEjecucion::SentenciaRechazada, QStringLiteral("Bloqueada."));
+        case Pasos::Envios::FilasRechazadas:
+            throw ErrorMotor(Restriccion, ErrorEjecucion::SentenciaRechazada, QStringLiteral("Fila mala."));
+        }
+    }
+
+    std::unique_ptr<MotorBase> m_propio;
     Pasos& m_pasos;
     int m_numero;
+    std::chrono::milliseconds m_espera{5000};
 };
 
 } // namespace
+
+std::unique_ptr<MotorBase> motorContado(std::unique_ptr<MotorBase> propio, Pasos& pasos)
+{
+    return std::make_unique<MotorContado>(std::move(propio), pasos);
+}
 
 OpcionesDatos opcionesContadas(const QString& carpeta, Pasos& pasos)
 {
     OpcionesDatos opciones;
     opciones.carpeta = carpeta;
-    opciones.abreMotor = [carpeta, &pasos](const DestinoConexion& destino) {
-        return std::make_unique<MotorContado>(carpeta + u'/' + destino.dsn + QStringLiteral(".db"), pasos);
+    opciones.origenes = Origenes::SoloEmbebidos;
+    opciones.abreMotor = [propias = opciones, &pasos](const DestinoConexion& destino) {
+        return motorContado(EntornoDatos{propias}.abre(destino), pasos);
     };
     return opciones;
 }

@@ -2,6 +2,7 @@
 
 #include "platform/database/entorno_datos.h"
 
+#include <chrono>
 #include <memory>
 
 namespace kestrane::database {
@@ -15,13 +16,17 @@ struct Pasos
     int reinicios = 0;
     int envios = 0; ///< of gathered rows
     int filasEnviadas = 0;
-    int abiertos = 0;    ///< engines opened so far
-    int cortados = 0;    ///< of these, how many have lost their database
-    bool fallan = false; ///< sendings are refused, as by a full disk
+    int abiertos = 0; ///< engines opened so far
+    int cortados = 0; ///< of these, how many have lost their database
+    enum class Envios { Bien, DiscoLleno, Bloqueados, FilasRechazadas };
+    Envios losEnvios = Envios::Bien;       ///< what becomes of them
+    std::chrono::milliseconds esperado{0}; ///< for locks, by sendings that met one
 
     void aCero() { *this = Pasos{.abiertos = abiertos, .cortados = cortados}; }
 };
 
+/// An engine that counts what `propio` is asked for. `pasos` must outlive it.
+[[nodiscard]] std::unique_ptr<MotorBase> motorContado(std::unique_ptr<MotorBase> propio, Pasos& pasos);
 /// Options that open embedded files of `carpeta` through an engine that counts. `pasos` must outlive the connections.
 [[nodiscard]] OpcionesDatos opcionesContadas(const QString& carpeta, Pasos& pasos);
 

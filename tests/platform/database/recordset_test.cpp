@@ -89,5 +89,49 @@ TEST_F(RecordsetContado, ALookUpAsksNothingButItsOneStep)
     EXPECT_EQ(m_pasos.reinicios, 1);
 }
 
+class RecordsetConFilaMala : public PasosMotor
+{
+protected:
+    RecordsetConFilaMala()
+    {
+        m_base.ejecuta("create table fechas (a LONG, d DATETIME); insert into fechas select n, '2024-01-01' from padres; "
+                       "update fechas set d = 'ayer' where a = 5");
+        m_rs.Open(u"select a, d from fechas"_s, m_conexion);
+        EXPECT_FALSE(m_rs.Eof());
+    }
+
+    Recordset m_rs;
+};
+
+TEST_F(RecordsetConFilaMala, ItNeverSeemsToHaveFewerRows)
+{
+    for (int vez = 0; vez < 3; ++vez) {
+        EXPECT_THROW(static_cast<void>(qint32{m_rs.RecordCount()}), ErrorEjecucion);
+        EXPECT_THROW(m_rs.MoveNext(), ErrorEjecucion);
+        EXPECT_THROW(static_cast<void>(m_rs.RecordCount() > 0), ErrorEjecucion);
+    }
+}
+
+TEST_F(RecordsetConFilaMala, OtherStatementsRunAndTheErrorComesWhereTheRowsAreAskedFor)
+{
+    EXPECT_NO_THROW(m_conexion.Execute(u"delete from padres"_s));
+    EXPECT_EQ(m_base.consulta("select count(*) from padres"), "0|");
+    EXPECT_EQ(m_rs.Fields(u"a").entero32(), 1) << "the row that was read stays";
+    EXPECT_THROW(m_rs.MoveNext(), ErrorEjecucion);
+}
+
+TEST_F(RecordsetConFilaMala, ARecordsetThatGoesAwaySendsItsRowsAllTheSame)
+{
+    {
+        Recordset altas;
+        altas.Open(u"t"_s, m_conexion, CursorType::Keyset);
+        altas.AddNew();
+        altas.Fields(u"a") = 999;
+        altas.Update();
+    }
+    EXPECT_EQ(m_base.consulta("select count(*) from t where a = 999"), "1|");
+    EXPECT_THROW(m_rs.MoveNext(), ErrorEjecucion);
+}
+
 } // namespace
 } // namespace kestrane::database

@@ -65,5 +65,62 @@ TEST_F(SesionInforme, AChunkThatFailsIsNotTriedForEachOfItsKeys)
     EXPECT_EQ(m_pasos.ejecutadas, 1 + 1 + 150);
 }
 
+TEST_F(SesionInforme, AResultThatCannotBeReadIsNotRemembered)
+{
+    m_base.ejecuta("create table fechas (a LONG, d DATETIME); insert into fechas values (1, '2024-01-01'), (2, 'ayer')");
+    const AmbitoInforme ambito = m_conexion.EmpiezaInforme();
+    for (int vez = 0; vez < 4; ++vez) {
+        Recordset rs;
+        rs.Open(u"select d from fechas"_s, m_conexion);
+        EXPECT_THROW(static_cast<void>(qint32{rs.RecordCount()}), ErrorEjecucion);
+        rs.Close();
+        rs.Open(u"select d from fechas"_s, m_conexion);
+        EXPECT_TRUE(rs.RecordCount() > 0);
+        m_conexion.Execute(u"delete from padres where n = 0"_s);
+    }
+}
+
+TEST_F(SesionInforme, AnAnswerOlderThanAWriteIsNotRemembered)
+{
+    const AmbitoInforme ambito = m_conexion.EmpiezaInforme();
+    const QString texto = u"select b from t where a = 7"_s;
+    Recordset rs;
+    rs.Open(texto, m_conexion);
+    rs.Close();
+    rs.Open(texto, m_conexion);
+    EXPECT_EQ(rs.Fields(0).texto(), u"fila 7");
+    m_conexion.Execute(u"update t set b = 'otra' where a = 7"_s);
+    Recordset entretanto;
+    entretanto.Open(texto, m_conexion);
+    entretanto.Close();
+    rs.Close();
+    for (int vez = 0; vez < 3; ++vez) {
+        rs.Open(texto, m_conexion);
+        EXPECT_EQ(rs.Fields(0).texto(), u"otra");
+        rs.Close();
+    }
+}
+
+TEST_F(SesionInforme, ReadingAheadWorksInACacheOfOneShape)
+{
+    OpcionesDatos opciones = m_entorno.opciones();
+    opciones.formas = 1;
+    EntornoDatos entorno{opciones};
+    Conexion conexion{entorno};
+    conexion.Open(u"dsn=Prueba"_s);
+    m_pasos.aCero();
+    const AmbitoInforme ambito = conexion.EmpiezaInforme();
+    Recordset padres;
+    padres.Open(u"select n from padres"_s, conexion);
+    padres.Anticipa(u"select b from t where a = "_s, u"n"_s, u""_s);
+    for (Recordset& padre : padres) {
+        const QString n = QString::number(padre.Fields(0).entero32());
+        Recordset rs;
+        rs.Open(u"select b from t where a = "_s + n, conexion);
+        ASSERT_EQ(rs.Fields(u"b").texto(), u"fila "_s + n);
+    }
+    EXPECT_EQ(m_pasos.ejecutadas, 3);
+}
+
 } // namespace
 } // namespace kestrane::database

@@ -87,16 +87,29 @@ void OdbcConexion::reconoceServidor()
 
 void OdbcConexion::preparaSesion()
 {
-    const auto espera = m_opciones.espera.count();
-    if (m_motor == jet::Motor::PostgreSql) {
+    if (m_motor == jet::Motor::PostgreSql)
         // Compiling a statement costs more than the look-ups that it would speed up.
-        ejecuta(u"SET standard_conforming_strings = on; SET lock_timeout = %1; SET jit = off"_s.arg(espera));
-        return;
-    }
-    ejecuta(
-        u"SET SESSION sql_mode = 'ANSI_QUOTES,NO_BACKSLASH_ESCAPES,STRICT_ALL_TABLES,NO_ENGINE_SUBSTITUTION', "
-        u"collation_connection = utf8mb4_uca1400_spanish_nopad_as_ci, innodb_lock_wait_timeout = %1, lock_wait_timeout = %1"_s.arg(
-            std::max<qint64>(1, (espera + 999) / 1000)));
+        ejecuta(u"SET standard_conforming_strings = on; SET jit = off"_s);
+    else
+        ejecuta(u"SET SESSION sql_mode = 'ANSI_QUOTES,NO_BACKSLASH_ESCAPES,STRICT_ALL_TABLES,NO_ENGINE_SUBSTITUTION', "
+                u"collation_connection = utf8mb4_uca1400_spanish_nopad_as_ci"_s);
+    ponEspera(m_opciones.espera);
+}
+
+/// To PostgreSQL 0 means to wait for ever; MariaDB counts whole seconds, of which 0 are no wait.
+void OdbcConexion::ponEspera(std::chrono::milliseconds espera)
+{
+    if (m_motor == jet::Motor::PostgreSql)
+        return ejecuta(u"SET lock_timeout = %1"_s.arg(std::max<qint64>(1, espera.count())));
+    ejecuta(u"SET SESSION innodb_lock_wait_timeout = %1, lock_wait_timeout = %1"_s.arg((espera.count() + 999) / 1000));
+}
+
+ManejadorSentencia OdbcConexion::nuevaSentencia()
+{
+    ManejadorSentencia sentencia = ManejadorSentencia::intenta(m_conexion.get());
+    if (!sentencia.get())
+        lanzaDe(SQL_HANDLE_DBC, m_conexion.get());
+    return sentencia;
 }
 
 bool OdbcConexion::pasaUtf8()

@@ -32,7 +32,9 @@ public:
     [[nodiscard]] bool perdida() const { return m_perdida; }
     void daPorPerdida() noexcept { m_perdida = true; }
 
-    [[nodiscard]] ManejadorSentencia nuevaSentencia() { return ManejadorSentencia{m_conexion.get()}; }
+    [[nodiscard]] ManejadorSentencia nuevaSentencia();
+    /// From now on waits that long for another program's lock.
+    void ponEspera(std::chrono::milliseconds espera);
     /// Runs a statement without parameters and result.
     void ejecuta(const QString& sql);
 

@@ -24,6 +24,7 @@ public:
 
     [[nodiscard]] jet::Motor clase() const override { return m_conexion->motor(); }
     [[nodiscard]] jet::Catalogo& catalogo() override { return m_catalogo; }
+    void ponEspera(std::chrono::milliseconds espera) override { m_conexion->ponEspera(espera); }
     [[nodiscard]] bool perdida() const override { return m_conexion->perdida(); }
 
     [[nodiscard]] std::unique_ptr<SentenciaMotor> prepara(const QByteArray& sql, std::span<const jet::TipoColumna> parametros,

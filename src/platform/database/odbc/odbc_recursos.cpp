@@ -1,5 +1,7 @@
 #include "platform/database/odbc/odbc_recursos.h"
 
+#include "platform/database/error_motor.h"
+
 #include <sqlucode.h>
 
 #include <array>
@@ -27,6 +29,13 @@ QString sinMarcas(QString texto)
 }
 
 } // namespace
+
+void sinManejador()
+{
+    throw ErrorMotor(
+        ErrorMotor::Categoria::SinSitio, ErrorEjecucion::ConexionImposible,
+        u"El gestor de controladores ODBC no puede abrir otra conexión: cierre otros programas y repita la operación."_s);
+}
 
 ManejadorEntorno entornoOdbc3()
 {

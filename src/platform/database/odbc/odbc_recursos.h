@@ -5,12 +5,14 @@
 #include <sql.h>
 #include <sqlext.h>
 
-#include <new>
 #include <utility>
 #include <vector>
 
 /// What every file of this folder uses of the driver manager: owned handles, attributes and diagnostics.
 namespace kestrane::database::odbc {
+
+/// Error ConexionImposible: the driver manager has no handle to give.
+[[noreturn]] void sinManejador();
 
 /// A handle that is released when its owner goes.
 template<SQLSMALLINT Clase>
@@ -18,11 +20,19 @@ class Manejador
 {
 public:
     Manejador() = default;
-    /// std::bad_alloc when the driver manager has none to give.
-    explicit Manejador(SQLHANDLE padre)
+    /// Errors as for `sinManejador`.
+    explicit Manejador(SQLHANDLE padre) : Manejador{intenta(padre)}
     {
-        if (!SQL_SUCCEEDED(SQLAllocHandle(Clase, padre, &m_manejador)))
-            throw std::bad_alloc{};
+        if (!m_manejador)
+            sinManejador();
+    }
+    /// One that holds nothing when there is none to be had: `padre` then tells why.
+    [[nodiscard]] static Manejador intenta(SQLHANDLE padre)
+    {
+        Manejador nuevo;
+        if (!SQL_SUCCEEDED(SQLAllocHandle(Clase, padre, &nuevo.m_manejador)))
+            nuevo.m_manejador = nullptr;
+        return nuevo;
     }
     ~Manejador() { suelta(); }
     Manejador(Manejador&& otro) noexcept : m_manejador{std::exchange(otro.m_manejador, nullptr)} {}

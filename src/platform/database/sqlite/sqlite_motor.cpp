@@ -39,7 +39,7 @@ void SqliteMotor::abre()
 
 void SqliteMotor::configura()
 {
-    exige(sqlite3_busy_timeout(base(), static_cast<int>(m_opciones.espera.count())));
+    ponEspera(m_opciones.espera);
     registraFunciones(base(), m_opciones.regional);
     // The first read tells whether the file is a database at all and whether it is locked.
     ejecuta("select count(*) from sqlite_master");
@@ -47,6 +47,11 @@ void SqliteMotor::configura()
         return;
     ejecuta("pragma journal_mode = wal");
     ejecuta("pragma synchronous = off");
+}
+
+void SqliteMotor::ponEspera(std::chrono::milliseconds espera)
+{
+    exige(sqlite3_busy_timeout(base(), static_cast<int>(espera.count())));
 }
 
 ErrorMotor SqliteMotor::error(int codigo)

@@ -41,6 +41,7 @@ public:
     [[nodiscard]] std::unique_ptr<SentenciaMotor> prepara(const QByteArray& sql, std::span<const jet::TipoColumna> parametros,
                                                           std::span<const jet::TipoColumna> resultado) override;
     void insertaFilas(const jet::Tabla& tabla, std::span<const int> columnas, AlmacenFilas& filas) override;
+    void ponEspera(std::chrono::milliseconds espera) override;
     [[nodiscard]] bool perdida() const override { return m_perdida; }
 
     [[nodiscard]] sqlite3* base() const { return m_base.get(); }
