@@ -18,11 +18,12 @@ bool esNombreSimple(const QString& nombre)
     return !nombre.isEmpty() && nombre != u".." && nombre != u"." && std::none_of(nombre.begin(), nombre.end(), prohibido);
 }
 
-void leeParte(QStringView parte, DestinoConexion& destino)
+/// False for what it does not know; blanks alone are nothing.
+bool leeParte(QStringView parte, DestinoConexion& destino)
 {
     const qsizetype igual = parte.indexOf(u'=');
     if (igual < 0)
-        return;
+        return parte.trimmed().isEmpty();
     const QString clave = parte.first(igual).trimmed().toString().toLower();
     const QString valor = parte.sliced(igual + 1).trimmed().toString();
     if (clave == u"dsn")
@@ -31,6 +32,9 @@ void leeParte(QStringView parte, DestinoConexion& destino)
         destino.usuario = valor;
     else if (clave == u"pwd" || clave == u"password")
         destino.clave = valor;
+    else
+        return false;
+    return true;
 }
 
 } // namespace
@@ -38,12 +42,14 @@ void leeParte(QStringView parte, DestinoConexion& destino)
 DestinoConexion leeCadena(const QString& cadena, const QString& usuario, const QString& clave)
 {
     DestinoConexion destino;
-    for (const QStringView parte : QStringView{cadena}.split(u';'))
-        leeParte(parte, destino);
-    if (!esNombreSimple(destino.dsn))
+    const auto partes = QStringView{cadena}.split(u';');
+    const bool conocidas = std::all_of(partes.begin(), partes.end(), [&](QStringView parte) { return leeParte(parte, destino); });
+    if (!conocidas || !esNombreSimple(destino.dsn))
         throw ErrorEjecucion(
             ErrorEjecucion::ConexionImposible,
-            u"La cadena de conexión \"%1\" no nombra un origen de datos. Escríbala como \"dsn=NOMBRE\"."_s.arg(cadena));
+            // Without what stands behind the name: it may be a password.
+            u"La cadena de conexión \"%1\" no se entiende. Escríbala como \"dsn=NOMBRE\", con \";uid=USUARIO;pwd=CLAVE\" detrás si hacen falta."_s
+                .arg(partes.size() > 1 ? partes.first().toString() + u";…"_s : cadena));
     if (!usuario.isEmpty())
         destino.usuario = usuario;
     if (!clave.isEmpty())

@@ -11,8 +11,8 @@ using namespace Qt::StringLiterals;
 
 TEST(CadenaConexion, ATextThatNamesNoDataSourceIsRefused)
 {
-    for (const QString& cadena :
-         {u""_s, u"ListKestrane"_s, u"dsn="_s, u"dsn=../otra"_s, u"dsn=a\\b"_s, u"dsn=.."_s, u"driver=x"_s}) {
+    for (const QString& cadena : {u""_s, u"ListKestrane"_s, u"dsn="_s, u"dsn=../otra"_s, u"dsn=a\\b"_s, u"dsn=.."_s, u"driver=x"_s,
+                                  u"dsn=T;driver=x"_s, u"dsn=T;x"_s}) {
         try {
             static_cast<void>(leeCadena(cadena, {}, {}));
             ADD_FAILURE() << qPrintable(cadena);
@@ -20,6 +20,16 @@ TEST(CadenaConexion, ATextThatNamesNoDataSourceIsRefused)
             EXPECT_EQ(error.numero(), ErrorEjecucion::ConexionImposible);
             EXPECT_TRUE(error.descripcion().contains(u"dsn=NOMBRE"));
         }
+    }
+}
+
+TEST(CadenaConexion, ARefusalDoesNotShowThePassword)
+{
+    try {
+        static_cast<void>(leeCadena(u"dsn=T;pwd=secreta;driver=x"_s, {}, {}));
+        FAIL();
+    } catch (const ErrorEjecucion& error) {
+        EXPECT_FALSE(error.descripcion().contains(u"secreta"));
     }
 }
 
