@@ -95,19 +95,23 @@ std::span<const Ligado> Adelanto::liga(const PlanSentencia& varias)
     return m_ligador.liga(m_marcas, m_literales);
 }
 
-std::optional<Adelanto::Respuestas> Adelanto::reparte(Cursor& cursor, const PlanSentencia& varias, const PlanSentencia& plan) const
+/// Two keys may be one number ("5", "05"): they share its rows.
+std::optional<Adelanto::Respuestas> Adelanto::reparte(Cursor& cursor, const PlanSentencia& varias, const PlanSentencia& plan,
+                                                      qsizetype bytesMaximos) const
 {
     const int visibles = plan.columnas();
     const bool conIdentidad = plan.columnaIdentidad() >= 0;
-    std::unordered_map<double, AlmacenFilas> porClave;
+    std::unordered_map<double, std::shared_ptr<AlmacenFilas>> porClave;
     for (const double clave : m_claves)
-        porClave.try_emplace(clave, visibles + (conIdentidad ? 1 : 0), std::numeric_limits<qsizetype>::max());
+        porClave[clave] = std::make_shared<AlmacenFilas>(visibles + (conIdentidad ? 1 : 0), std::numeric_limits<qsizetype>::max());
     while (cursor.avanza()) {
+        if (cursor.filas().bytes() > bytesMaximos)
+            return std::nullopt;
         const Valor clave = cursor.lector().valor(varias.columnaClave());
         const auto suya = clave.esNulo() ? porClave.end() : porClave.find(clave.doble());
         if (suya == porClave.end())
             return std::nullopt;
-        AlmacenFilas& filas = suya->second;
+        AlmacenFilas& filas = *suya->second;
         filas.empiezaFila();
         for (int i = 0; i < visibles; ++i)
             filas.ponCelda(cursor.lector().celda(i));
@@ -117,12 +121,12 @@ std::optional<Adelanto::Respuestas> Adelanto::reparte(Cursor& cursor, const Plan
     }
     Respuestas respuestas;
     for (const double clave : m_claves)
-        respuestas.push_back(std::make_shared<const AlmacenFilas>(std::move(porClave.at(clave))));
+        respuestas.push_back(porClave.at(clave));
     return respuestas;
 }
 
 std::optional<Adelanto::Respuestas> Adelanto::lee(const std::vector<QString>& sentencias, const PlanSentencia& plan,
-                                                  Cursor::Anillo& aMedias, qsizetype limite)
+                                                  Cursor::Anillo& aMedias, qsizetype limite, qsizetype bytesMaximos)
 {
     if (!extraeClaves(sentencias))
         return std::nullopt;
@@ -137,7 +141,7 @@ std::optional<Adelanto::Respuestas> Adelanto::lee(const std::vector<QString>& se
         ~Devuelve() { plan.devuelve(cursor); }
     } const alSalir{*varias, cursor};
     cursor.ejecuta(liga(*varias), aMedias);
-    return reparte(cursor, *varias, plan);
+    return reparte(cursor, *varias, plan, bytesMaximos);
 }
 
 } // namespace kestrane::database

@@ -29,9 +29,10 @@ public:
     using Respuestas = std::vector<std::shared_ptr<const AlmacenFilas>>;
 
     /// The rows of each of `sentencias` (at least two, of one shape), as each would give them; nothing when they cannot be asked
-    /// for together. `plan` is theirs; `aMedias` and `limite` as for any cursor. Errors of the engine rise.
+    /// for together or take more than `bytesMaximos` of memory. `plan` is theirs; `aMedias` and `limite` as for any cursor. Errors
+    /// of the engine rise.
     [[nodiscard]] std::optional<Respuestas> lee(const std::vector<QString>& sentencias, const PlanSentencia& plan,
-                                                Cursor::Anillo& aMedias, qsizetype limite);
+                                                Cursor::Anillo& aMedias, qsizetype limite, qsizetype bytesMaximos);
 
 private:
     [[nodiscard]] bool extraeClaves(const std::vector<QString>& sentencias);
@@ -39,7 +40,8 @@ private:
     [[nodiscard]] bool anadeClave(const QString& sentencia);
     [[nodiscard]] PlanSentencia* planDe(const QString& sentencia, int marcas);
     [[nodiscard]] std::span<const Ligado> liga(const PlanSentencia& varias);
-    [[nodiscard]] std::optional<Respuestas> reparte(Cursor& cursor, const PlanSentencia& varias, const PlanSentencia& plan) const;
+    [[nodiscard]] std::optional<Respuestas> reparte(Cursor& cursor, const PlanSentencia& varias, const PlanSentencia& plan,
+                                                    qsizetype bytesMaximos) const;
 
     MotorBase& m_motor;
     const jet::Traductor& m_traductor;

@@ -65,9 +65,17 @@ std::vector<QString> Anticipacion::siguientes(QStringView clave, int maximo)
 
 void Anticipacion::guarda(const std::vector<QString>& claves, std::vector<std::shared_ptr<const AlmacenFilas>> filas)
 {
-    m_servidas.clear();
-    for (size_t i = 0; i < claves.size(); ++i)
+    olvida();
+    for (size_t i = 0; i < claves.size(); ++i) {
+        m_bytes += filas[i]->bytes();
         m_servidas.emplace(claves[i], std::move(filas[i]));
+    }
+}
+
+void Anticipacion::olvida()
+{
+    m_servidas.clear();
+    m_bytes = 0;
 }
 
 void Anticipacion::fallo(size_t claves)

@@ -37,7 +37,9 @@ public:
     void guarda(const std::vector<QString>& claves, std::vector<std::shared_ptr<const AlmacenFilas>> filas);
     /// The keys given last are to be sent one by one.
     void fallo(size_t claves);
-    void olvida() { m_servidas.clear(); }
+    void olvida();
+    /// What the answers read ahead take.
+    [[nodiscard]] qsizetype bytes() const { return m_bytes; }
 
 private:
     struct Hash
@@ -62,6 +64,7 @@ private:
     std::deque<QString> m_proximas; ///< keys of the rows to come, each once, as far as they were looked at
     size_t m_deUnaEnUna = 0;
     std::unordered_map<QString, std::shared_ptr<const AlmacenFilas>, Hash, Iguales> m_servidas;
+    qsizetype m_bytes = 0;
 };
 
 } // namespace kestrane::database

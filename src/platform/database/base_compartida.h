@@ -21,6 +21,8 @@ public:
     /// `nombre` is the data source's, for messages; `espera` how long a statement waits for a lock.
     BaseCompartida(QString nombre, std::chrono::milliseconds espera) : m_nombre{std::move(nombre)}, m_espera{espera} {}
 
+    [[nodiscard]] const QString& nombre() const { return m_nombre; }
+
     /// A connection's engine comes and goes. The one that goes lets go of all that is its own here.
     void entra(MotorBase& motor) { m_motores.push_back(&motor); }
     void sale(MotorBase& motor);

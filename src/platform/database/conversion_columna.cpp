@@ -23,6 +23,7 @@ namespace {
 QString textoParaColumna(const Valor& valor, const jet::Columna& columna, const ConfiguracionRegional& regional)
 {
     QString texto = valor.clase() == Valor::Clase::Texto ? valor.texto() : aTexto(valor, regional);
+    exigeEscribible(texto, columna.nombre);
     exigeAncho(texto, columna.ancho, columna.nombre);
     return texto;
 }
@@ -68,6 +69,15 @@ void exigeAncho(QStringView texto, int ancho, const QString& columna)
                          .arg(columna)
                          .arg(ancho)
                          .arg(texto.first(std::min<qsizetype>(texto.size(), 40))));
+}
+
+void exigeEscribible(QStringView texto, const QString& columna)
+{
+    if (!texto.contains(QChar{u'\0'}))
+        return;
+    const QString donde = columna.isEmpty() ? QString{} : u" para la columna \"%1\""_s.arg(columna);
+    throw ErrorMotor(ErrorMotor::Categoria::Restriccion, ErrorEjecucion::SentenciaRechazada,
+                     u"El texto%1 contiene el carácter nulo, que una base de datos no puede guardar: quítelo."_s.arg(donde));
 }
 
 Valor valorParaColumna(const Valor& valor, const jet::Columna& columna, const ConfiguracionRegional& regional)

@@ -14,4 +14,7 @@ namespace kestrane::database {
 /// Error -2147217900 with the widths when `texto` is wider than `ancho` characters (0: any width).
 void exigeAncho(QStringView texto, int ancho, const QString& columna);
 
+/// Error -2147217900 when `texto` holds the character 0, which not all databases keep. `columna` may be "".
+void exigeEscribible(QStringView texto, const QString& columna);
+
 } // namespace kestrane::database

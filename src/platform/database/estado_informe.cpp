@@ -18,6 +18,14 @@ void EstadoInforme::alDia(quint64 escrituras)
         anticipacion->olvida();
 }
 
+qsizetype EstadoInforme::bytesParaAdelantar() const
+{
+    qsizetype libres = m_bytesAdelantados;
+    for (const auto& anticipacion : m_anticipaciones)
+        libres -= anticipacion->bytes();
+    return libres;
+}
+
 void EstadoInforme::vacia()
 {
     m_respuestas.vacia();

@@ -12,7 +12,8 @@ namespace kestrane::database {
 class EstadoInforme
 {
 public:
-    explicit EstadoInforme(qsizetype bytesMaximos) : m_respuestas{bytesMaximos} {}
+    /// One half of the bytes is for answers that are remembered, the other for those read ahead.
+    explicit EstadoInforme(qsizetype bytesMaximos) : m_bytesAdelantados{bytesMaximos / 2}, m_respuestas{bytesMaximos / 2} {}
 
     void empieza() { ++m_ambitos; }
     void termina();
@@ -27,8 +28,11 @@ public:
     /// The recordset that an announcement belongs to closes.
     void retira(const void* duenio);
     [[nodiscard]] const std::vector<std::unique_ptr<Anticipacion>>& anticipaciones() const { return m_anticipaciones; }
+    /// What the next answers read ahead may take.
+    [[nodiscard]] qsizetype bytesParaAdelantar() const;
 
 private:
+    qsizetype m_bytesAdelantados;
     int m_ambitos = 0;
     quint64 m_escrituras = 0;
     Respuestas m_respuestas;

@@ -57,6 +57,7 @@ Ligado Ligador::comoTexto(const Parametro& marca, const Literal& literal)
         texto = guarda(aTexto(literal.fecha, m_regional));
     else if (literal.clase != Literal::Clase::Texto)
         texto = guarda(aTexto(marca.negado ? -literal.numero : literal.numero, m_regional));
+    exigeEscribible(texto, marca.columna);
     exigeAncho(texto, marca.ancho, marca.columna);
     return texto;
 }
@@ -84,9 +85,8 @@ Ligado Ligador::comoNumero(const Parametro& marca, const Literal& literal) const
     const double numero = marca.negado ? -numeroDe(marca, literal) : numeroDe(marca, literal);
     switch (marca.tipo) {
     case TipoColumna::Entero32:
-        return aEntero32(numero);
     case TipoColumna::Entero16:
-        return qint32{aEntero16(numero)};
+        return comoEntero(marca, numero);
     case TipoColumna::SiNo:
         // Written, a flag is -1 or 0; compared, a number stays itself: a stored 1 is not a stored -1.
         return marca.columna.isEmpty() ? Ligado{numero} : Ligado{numero != 0 ? -1 : 0};
@@ -95,16 +95,27 @@ Ligado Ligador::comoNumero(const Parametro& marca, const Literal& literal) const
     }
 }
 
+Ligado Ligador::comoEntero(const Parametro& marca, double numero) const
+{
+    try {
+        return marca.tipo == TipoColumna::Entero32 ? aEntero32(numero) : qint32{aEntero16(numero)};
+    } catch (const ErrorEjecucion&) {
+        const QString entero = marca.tipo == TipoColumna::Entero32 ? u"un entero de 32 bits"_s : u"un entero de 16 bits"_s;
+        noConvertible(marca, aTexto(numero, m_regional), entero);
+    }
+}
+
 Ligado Ligador::comoFecha(const Parametro& marca, const Literal& literal) const
 {
     if (literal.clase == Literal::Clase::Fecha)
         return literal.fecha;
-    if (literal.clase != Literal::Clase::Texto)
-        return aFecha(Valor{marca.negado ? -literal.numero : literal.numero}, m_regional);
     try {
+        if (literal.clase != Literal::Clase::Texto)
+            return aFecha(Valor{marca.negado ? -literal.numero : literal.numero}, m_regional);
         return aFecha(literal.texto, m_regional);
     } catch (const ErrorEjecucion&) {
-        noConvertible(marca, literal.texto.toString(), u"una fecha"_s);
+        const bool esTexto = literal.clase == Literal::Clase::Texto;
+        noConvertible(marca, esTexto ? literal.texto.toString() : aTexto(literal.numero, m_regional), u"una fecha"_s);
     }
 }
 

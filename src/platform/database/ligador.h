@@ -26,6 +26,7 @@ private:
     [[nodiscard]] Ligado convierte(const jet::Parametro& marca, const jet::Literal& literal);
     [[nodiscard]] Ligado comoTexto(const jet::Parametro& marca, const jet::Literal& literal);
     [[nodiscard]] Ligado comoNumero(const jet::Parametro& marca, const jet::Literal& literal) const;
+    [[nodiscard]] Ligado comoEntero(const jet::Parametro& marca, double numero) const;
     [[nodiscard]] Ligado comoFecha(const jet::Parametro& marca, const jet::Literal& literal) const;
     [[nodiscard]] double numeroDe(const jet::Parametro& marca, const jet::Literal& literal) const;
     [[nodiscard]] QStringView guarda(QString texto);

@@ -17,13 +17,13 @@ PlanSentencia::PlanSentencia(jet::Traduccion traduccion, const jet::Tabla* tabla
         m_resultado.push_back(columna.tipo);
     if (m_traduccion.conClave)
         m_resultado.push_back(m_parametros.back());
-    if (m_tabla)
+    if (tieneIdentidad())
         m_resultado.push_back(tipoDeIdentidad(*m_tabla));
 }
 
 int PlanSentencia::columnaIdentidad() const
 {
-    return m_tabla ? columnas() + (m_traduccion.conClave ? 1 : 0) : -1;
+    return tieneIdentidad() ? columnas() + (m_traduccion.conClave ? 1 : 0) : -1;
 }
 
 qsizetype PlanSentencia::bytes() const

@@ -42,6 +42,7 @@ public:
     void deja() { --m_usos; }
 
 private:
+    [[nodiscard]] bool tieneIdentidad() const { return m_tabla && !m_tabla->identidad.isEmpty(); }
     [[nodiscard]] std::unique_ptr<SentenciaMotor> prepara(MotorBase& motor) const;
 
     jet::Traduccion m_traduccion;

@@ -208,10 +208,8 @@ void Recordset::escribe(int columna, const Valor& valor)
     if (enTabla < 0)
         rechaza(u"El campo \"%1\" no se puede escribir: no es una columna de la tabla."_s.arg(
             m_plan->traduccion().columnas[static_cast<size_t>(columna)].nombre));
-    Valor convertido = valorParaColumna(valor, m_plan->tabla()->columnas[static_cast<size_t>(enTabla)], m_sesion->regional());
-    if (m_fila == Fila::Leida && lee(columna) == convertido)
-        return;
-    edicion.pon(enTabla, std::move(convertido));
+    // Written even when the row was read with that very value: another program may have changed it since.
+    edicion.pon(enTabla, valorParaColumna(valor, m_plan->tabla()->columnas[static_cast<size_t>(enTabla)], m_sesion->regional()));
 }
 
 void Recordset::AddNew()

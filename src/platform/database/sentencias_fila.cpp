@@ -1,5 +1,8 @@
 #include "platform/database/sentencias_fila.h"
 
+#include "platform/jet/dialecto.h"
+#include "platform/jet/sql_identifier.h"
+
 #include <algorithm>
 
 namespace kestrane::database {
@@ -8,10 +11,7 @@ namespace {
 
 QByteArray entreComillas(jet::Motor motor, const QString& nombre)
 {
-    const char marca = motor == jet::Motor::MariaDb ? '`' : '"';
-    QByteArray texto = nombre.toUtf8();
-    texto.replace(QByteArray(1, marca), QByteArray(2, marca));
-    return marca + texto + marca;
+    return jet::SqlIdentifier{nombre}.entre(jet::dialectoDe(motor).comilla);
 }
 
 const QString& nombreDe(const jet::Tabla& tabla, int columna)
@@ -19,9 +19,25 @@ const QString& nombreDe(const jet::Tabla& tabla, int columna)
     return tabla.columnas[static_cast<size_t>(columna)].nombre;
 }
 
+/// The column that is the identity, nullptr when that is a hidden one.
+const jet::Columna* columnaIdentidad(const jet::Tabla& tabla)
+{
+    const auto columna = std::find_if(tabla.columnas.begin(), tabla.columnas.end(),
+                                      [&](const jet::Columna& una) { return una.nombre == tabla.identidad; });
+    return columna == tabla.columnas.end() ? nullptr : &*columna;
+}
+
+/// A row's number comes as a double: servers find the row by their index only when they are told that it is whole.
+QByteArray marcaDeIdentidad(jet::Motor motor, const jet::Tabla& tabla)
+{
+    if (motor == jet::Motor::Sqlite || columnaIdentidad(tabla))
+        return "?";
+    return motor == jet::Motor::MariaDb ? QByteArray{"cast(? as signed)"} : QByteArray{"cast(? as bigint)"};
+}
+
 QByteArray dondeIdentidad(jet::Motor motor, const jet::Tabla& tabla)
 {
-    return " where " + entreComillas(motor, tabla.identidad) + " = ?";
+    return " where " + entreComillas(motor, tabla.identidad) + " = " + marcaDeIdentidad(motor, tabla);
 }
 
 QByteArray sinColumnas(jet::Motor motor)
@@ -59,9 +75,8 @@ QByteArray sqlBorrado(jet::Motor motor, const jet::Tabla& tabla)
 
 jet::TipoColumna tipoDeIdentidad(const jet::Tabla& tabla)
 {
-    const auto columna = std::find_if(tabla.columnas.begin(), tabla.columnas.end(),
-                                      [&](const jet::Columna& una) { return una.nombre == tabla.identidad; });
-    return columna == tabla.columnas.end() ? jet::TipoColumna::Entero32 : columna->tipo;
+    const jet::Columna* const columna = columnaIdentidad(tabla);
+    return columna ? columna->tipo : jet::TipoColumna::Doble;
 }
 
 } // namespace kestrane::database

@@ -16,7 +16,7 @@ namespace kestrane::database {
 [[nodiscard]] QByteArray sqlModificacion(jet::Motor motor, const jet::Tabla& tabla, std::span<const int> columnas);
 /// `delete from tabla where identidad = ?`.
 [[nodiscard]] QByteArray sqlBorrado(jet::Motor motor, const jet::Tabla& tabla);
-/// The type of the identity: that of the column it names, else a 32-bit number.
+/// The type of the identity: that of the column it names; a hidden number, which may be beyond 32 bits, is a double.
 [[nodiscard]] jet::TipoColumna tipoDeIdentidad(const jet::Tabla& tabla);
 
 } // namespace kestrane::database

@@ -13,9 +13,13 @@ namespace kestrane::database {
 
 namespace {
 
-[[noreturn]] void rechaza(const jet::ErrorSql& error, const QString& sentencia)
+/// Where a name was looked for and what to do, which the place in the statement does not say.
+QString remedioDe(jet::ErrorSql::Clase clase, const QString& base)
 {
-    throw ErrorEjecucion(ErrorEjecucion::SentenciaRechazada, jet::describe(error, sentencia));
+    if (clase != jet::ErrorSql::Clase::TablaDesconocida && clase != jet::ErrorSql::Clase::ColumnaDesconocida)
+        return {};
+    return u"\nBase de datos \"%1\": compruebe que es la que corresponde y que está completa; \"crear-tienda\" hace una nueva."_s
+        .arg(base);
 }
 
 QString contextoDe(const QString& sentencia)
@@ -108,6 +112,12 @@ PlanSentencia& Sesion::planNuevo(const QString& sentencia)
     const jet::Tabla* const tabla = editable.isEmpty() ? nullptr : m_motor->catalogo().tabla(editable);
     return m_formas.inserta(m_extractor.forma(), m_extractor.hash(),
                             std::make_unique<PlanSentencia>(std::move(traduccion).valor(), tabla));
+}
+
+void Sesion::rechaza(const jet::ErrorSql& error, const QString& sentencia) const
+{
+    throw ErrorEjecucion(ErrorEjecucion::SentenciaRechazada,
+                         jet::describe(error, sentencia) + remedioDe(error.clase, m_base->nombre()));
 }
 
 Sesion::Abierta Sesion::preparada(const QString& sentencia)

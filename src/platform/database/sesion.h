@@ -74,6 +74,7 @@ public:
 
 private:
     [[nodiscard]] PlanSentencia& planNuevo(const QString& sentencia);
+    [[noreturn]] void rechaza(const jet::ErrorSql& error, const QString& sentencia) const;
     [[noreturn]] void sinForma(const QString& sentencia) const;
     [[noreturn]] static void sinFilas();
     [[nodiscard]] Abierta recordada(const QString& sentencia);

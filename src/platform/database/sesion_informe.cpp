@@ -89,7 +89,9 @@ std::shared_ptr<const AlmacenFilas> Sesion::leeAdelantado(Anticipacion& anticipa
     for (const QString& una : claves)
         sentencias.push_back(anticipacion.sentencia(una));
     try {
-        auto respuestas = m_adelanto.lee(sentencias, plan, m_base->aMedias(), m_entorno.opciones().limiteFilas);
+        anticipacion.olvida();
+        auto respuestas =
+            m_adelanto.lee(sentencias, plan, m_base->aMedias(), m_entorno.opciones().limiteFilas, m_informe->bytesParaAdelantar());
         if (respuestas) {
             anticipacion.guarda(claves, std::move(*respuestas));
             return anticipacion.servida(clave);

@@ -33,6 +33,30 @@ bool literalSirve(TipoColumna literal, TipoColumna destino)
     return familiaDe(literal) == familiaDe(destino);
 }
 
+/// Whether a value of that type may be too large for the column. A column's value fits one of its own type.
+bool puedeNoCaber(const Expresion& valor, const jet::Columna& destino)
+{
+    const bool esColumna = std::holds_alternative<enlazado::Columna>(valor.dato);
+    switch (destino.tipo) {
+    case TipoColumna::Texto:
+        return destino.ancho > 0;
+    case TipoColumna::Entero32:
+        return valor.tipo != TipoColumna::SiNo && !esColumna;
+    case TipoColumna::Entero16:
+        return valor.tipo != TipoColumna::SiNo && (!esColumna || valor.tipo != TipoColumna::Entero16);
+    default:
+        return false;
+    }
+}
+
+ExpresionPtr acotado(ExpresionPtr valor, const jet::Columna& destino)
+{
+    if (!puedeNoCaber(*valor, destino))
+        return valor;
+    const ast::Lugar lugar = valor->lugar;
+    return nodo(Cabe{std::move(valor), destino.nombre, destino.ancho}, destino.tipo, lugar);
+}
+
 } // namespace
 
 Sentencia Binder::enlaza(const ast::Sentencia& leida)
@@ -131,13 +155,13 @@ ExpresionPtr Binder::paraColumna(ExpresionPtr valor, const jet::Columna& destino
         return valor;
     }
     if (esTexto(destino.tipo))
-        return comoTexto(std::move(valor));
+        return acotado(comoTexto(std::move(valor)), destino);
     const bool recorta = esEntero(destino.tipo) && destino.tipo != TipoColumna::SiNo && valor->tipo == TipoColumna::Doble;
     if (familiaDe(valor->tipo) != familiaDe(destino.tipo) || recorta)
         noCabe(*valor, destino);
     if (destino.tipo == TipoColumna::SiNo && valor->tipo != TipoColumna::SiNo)
         return comoValor(comoCondicion(std::move(valor)));
-    return valor;
+    return acotado(std::move(valor), destino);
 }
 
 Resultado<Sentencia, ErrorSql> enlaza(const ast::Sentencia& sentencia, Catalogo& catalogo)

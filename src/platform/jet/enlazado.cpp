@@ -117,6 +117,7 @@ void recorreHijos(const Expresion& expresion, const Visita& visita)
                    [&](const ComoTexto& x) { visita(*x.operando); },
                    [&](const Parte& x) { visita(*x.fecha); },
                    [&](const Agregado& x) { visitaSi(x.operando, visita); },
+                   [&](const Cabe& x) { visita(*x.operando); },
                    [&](const ComoValor& x) { visita(*x.condicion); },
                    [&](const Logica& x) { dos(x); },
                    [&](const No& x) { visita(*x.operando); },

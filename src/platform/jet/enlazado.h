@@ -104,6 +104,14 @@ struct Agregado
     ExpresionPtr operando; ///< nullptr for count(*)
 };
 
+/// A computed value on its way into a column of the node's type, which may be too narrow for it.
+struct Cabe
+{
+    ExpresionPtr operando;
+    QString columna;
+    int ancho = 0; ///< characters of a text
+};
+
 /// A condition used as a value: -1, 0 or Null.
 struct ComoValor
 {
@@ -181,7 +189,7 @@ struct Expresion
 {
     using Dato =
         std::variant<Columna, PrimeraGrafia, Parametro, Nulo, Constante, Aritmetica, CambioDeSigno, TextosUnidos, ComoTexto, Parte,
-                     Agregado, ComoValor, Logica, No, Comparacion, Parecido, Entre, EnLista, EnConsulta, EsNulo>;
+                     Agregado, Cabe, ComoValor, Logica, No, Comparacion, Parecido, Entre, EnLista, EnConsulta, EsNulo>;
 
     Dato dato;
     TipoColumna tipo = TipoColumna::SiNo;

@@ -44,6 +44,8 @@ protected:
     virtual void parecido(const enlazado::Parecido& parecido) = 0;
     virtual void aritmetica(const enlazado::Aritmetica& cuenta) = 0;
     virtual void subconsulta(const enlazado::Consulta& una);
+    /// Nothing to write where the engine itself refuses what its column does not hold.
+    virtual void cabe(const enlazado::Cabe& dato, TipoColumna tipo);
 
     /// Writes an expression, in parentheses when it holds less tightly than its place asks.
     void expresion(const Expresion& e, PrecedenciaSql minima = PrecedenciaSql::O);
@@ -90,6 +92,7 @@ private:
     void nodo(const enlazado::ComoTexto& dato, const Expresion& e);
     void nodo(const enlazado::Parte& dato, const Expresion& e);
     void nodo(const enlazado::Agregado& dato, const Expresion& e);
+    void nodo(const enlazado::Cabe& dato, const Expresion& e);
     void nodo(const enlazado::ComoValor& dato, const Expresion& e);
     void nodo(const enlazado::Logica& dato, const Expresion& e);
     void nodo(const enlazado::No& dato, const Expresion& e);

@@ -142,6 +142,16 @@ void Renderer::nodo(const Agregado& dato, const Expresion&)
     pon(envoltura.despues);
 }
 
+void Renderer::cabe(const Cabe& dato, TipoColumna)
+{
+    expresion(*dato.operando);
+}
+
+void Renderer::nodo(const Cabe& dato, const Expresion& e)
+{
+    cabe(dato, e.tipo);
+}
+
 void Renderer::nodo(const ComoValor& dato, const Expresion&)
 {
     envuelto(m_dialecto.condicionComoValor, *dato.condicion);

@@ -14,15 +14,14 @@ constexpr Envoltura Redondeado{"CAST(ROUND(", ") AS SIGNED)"};
 
 } // namespace
 
-/// Ten decimals are more than any amount has.
+/// The format is that of a double with 15 significant digits; the addition turns -0 into 0.
 void RendererMariadb::comoTexto(const Expresion& valor)
 {
     if (valor.tipo == TipoColumna::FechaHora)
         return fechaComoTexto(valor);
     if (esEntero(valor.tipo))
         return envuelto({"CAST(", " AS CHAR)"}, valor);
-    envuelto({"REPLACE(TRIM(TRAILING '.' FROM TRIM(TRAILING '0' FROM CAST(CAST(", " AS DECIMAL(40, 10)) AS CHAR))), '.', '"},
-             valor);
+    envuelto({"REPLACE(SFORMAT('{:.15G}', CAST(", " AS DOUBLE) + 0e0), '.', '"}, valor);
     pon(QString(m_regional.marcaDecimal).toUtf8().constData());
     pon("')");
 }

@@ -17,14 +17,18 @@ constexpr const char* CotejoDeParecido = " COLLATE \"es-x-icu\"";
 
 } // namespace
 
-/// Through "numeric" a double is written with 15 significant digits and without an exponent.
+/// Through "numeric" a double has 15 significant digits; below 0.0001 and from 1E+15 on they are written with an exponent.
 void RendererPostgresql::comoTexto(const Expresion& valor)
 {
     if (valor.tipo == TipoColumna::FechaHora)
         return fechaComoTexto(valor);
     if (esEntero(valor.tipo))
         return envuelto({"CAST(", " AS text)"}, valor);
-    envuelto({"REPLACE(CAST(TRIM_SCALE(CAST(", " AS numeric)) AS text), '.', '"}, valor);
+    envuelto({"REPLACE(CASE WHEN CAST(", " AS numeric) = 0"}, valor);
+    envuelto({" OR ABS(CAST(", " AS numeric)) BETWEEN 0.0001 AND 999999999999999"}, valor);
+    envuelto({" THEN CAST(TRIM_SCALE(CAST(", " AS numeric)) AS text)"}, valor);
+    envuelto({" ELSE REGEXP_REPLACE(TRIM(TO_CHAR(CAST(", " AS numeric), '9.99999999999999EEEE')), '[.]?0*e', 'E') END, '.', '"},
+             valor);
     pon(QString(m_regional.marcaDecimal).toUtf8().constData());
     pon("')");
 }

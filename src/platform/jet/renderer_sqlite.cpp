@@ -1,5 +1,7 @@
 #include "platform/jet/renderer_sqlite.h"
 
+#include "platform/jet/sql_identifier.h"
+
 namespace kestrane::jet {
 
 using namespace enlazado;
@@ -8,6 +10,16 @@ void RendererSqlite::comoTexto(const Expresion& valor)
 {
     const bool fecha = valor.tipo == TipoColumna::FechaHora;
     envuelto({fecha ? "texto_fecha(" : "texto(", ")"}, valor);
+}
+
+/// The engine's columns have neither width nor range of their own.
+void RendererSqlite::cabe(const Cabe& dato, TipoColumna tipo)
+{
+    envuelto({tipo == TipoColumna::Texto ? "cabe_texto(" : "cabe_entero(", ", "}, *dato.operando);
+    pon(QByteArray::number(tipo == TipoColumna::Texto ? dato.ancho : tipo == TipoColumna::Entero16 ? 16 : 32).constData());
+    pon(", ");
+    pon(SqlIdentifier{dato.columna}.entre('\'').constData());
+    pon(")");
 }
 
 /// The connection replaces the function behind LIKE by one that knows the whole alphabet.

@@ -4,7 +4,7 @@
 
 namespace kestrane::jet {
 
-/// SQLite: conversions, divisions and LIKE are functions that the connection registers.
+/// SQLite: conversions, divisions, LIKE and the widths of columns are functions that the connection registers.
 class RendererSqlite final : public Renderer
 {
 public:
@@ -14,6 +14,7 @@ protected:
     void comoTexto(const Expresion& valor) override;
     void parecido(const enlazado::Parecido& parecido) override;
     void aritmetica(const enlazado::Aritmetica& cuenta) override;
+    void cabe(const enlazado::Cabe& dato, TipoColumna tipo) override;
 };
 
 } // namespace kestrane::jet

@@ -18,4 +18,11 @@ void SqlIdentifier::escribe(QByteArray& sql, char comilla) const
     sql += comilla;
 }
 
+QByteArray SqlIdentifier::entre(char comilla) const
+{
+    QByteArray texto;
+    escribe(texto, comilla);
+    return texto;
+}
+
 } // namespace kestrane::jet

@@ -5,7 +5,8 @@
 
 namespace kestrane::jet {
 
-/// A name of a table, column or collation in text for an engine. The only place where names are quoted.
+/// A name of a table, column or collation in text for an engine. The only place where names are quoted; a name that is told to a
+/// function of the engine's stands between apostrophes.
 class SqlIdentifier
 {
 public:
@@ -13,6 +14,8 @@ public:
 
     /// Writes the name between two `comilla`, doubling those inside it.
     void escribe(QByteArray& sql, char comilla) const;
+    /// The same as a text of its own.
+    [[nodiscard]] QByteArray entre(char comilla) const;
 
 private:
     QStringView m_nombre;

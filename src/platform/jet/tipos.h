@@ -34,7 +34,8 @@ struct Tabla
     /// One column that names a row among all others (row number or hidden identity), "" when there is none: without it the current
     /// row of a recordset can be neither changed nor deleted.
     QString identidad;
-    /// True when the database itself may refuse a well-typed row (unique keys and the like beyond NOT NULL).
+    /// True when the database itself may refuse a well-typed row (unique keys and the like beyond NOT NULL), or puts something else
+    /// than Null where a row says nothing.
     bool tieneClavesUnicas = false;
 
     friend bool operator==(const Tabla&, const Tabla&) = default;

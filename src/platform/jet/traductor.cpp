@@ -40,8 +40,7 @@ const Tabla* tablaEditable(const Sentencia& sentencia)
         return nullptr;
     if (consulta->filas == ast::Filas::Distintas || !consulta->grupos.empty())
         return nullptr;
-    const Tabla* tabla = sentencia.tablas[static_cast<size_t>(consulta->fuentes.front())];
-    return tabla->identidad.isEmpty() ? nullptr : tabla;
+    return sentencia.tablas[static_cast<size_t>(consulta->fuentes.front())];
 }
 
 void describeResultado(const Consulta& consulta, bool editable, Traduccion& traduccion)
@@ -80,7 +79,7 @@ Traduccion monta(const Sentencia& sentencia, std::optional<enlazado::Columna> cl
         traduccion.tablaEditable = editable->nombre;
     if (const auto* consulta = std::get_if<Consulta>(&sentencia.dato))
         describeResultado(*consulta, editable != nullptr, traduccion);
-    TextoSql texto = escrito(sentencia, {clave, editable != nullptr}, motor, regional);
+    TextoSql texto = escrito(sentencia, {clave, editable && !editable->identidad.isEmpty()}, motor, regional);
     traduccion.sql = std::move(texto.sql);
     traduccion.parametros = std::move(texto.parametros);
     return traduccion;

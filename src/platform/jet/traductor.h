@@ -50,7 +50,8 @@ struct Traduccion
     QByteArray sql; ///< UTF-8, in the engine's dialect, literals as `?`
     std::vector<Parametro> parametros;
     std::vector<ColumnaResultado> columnas; ///< of a Consulta
-    /// A plain query of one table: its name, and the rendered text gives its identity as one more, last column. Else "".
+    /// A plain query of one table: its name, and the rendered text gives the identity, if the table has one, as one more, last
+    /// column. Else "".
     QString tablaEditable;
     /// For `tablaEditable`: for each result column the column of the table that it is, or -1.
     std::vector<int> columnaDeTabla;

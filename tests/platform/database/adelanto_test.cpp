@@ -20,7 +20,7 @@ protected:
         if (!traduccion)
             return {u"no es una sentencia"_s};
         const PlanSentencia plan{std::move(traduccion).valor(), m_motor.catalogo().tabla(u"t")};
-        const auto respuestas = m_adelanto.lee(sentencias, plan, m_aMedias, AlmacenFilas::LimitePorDefecto);
+        const auto respuestas = m_adelanto.lee(sentencias, plan, m_aMedias, AlmacenFilas::LimitePorDefecto, m_bytesMaximos);
         if (!respuestas)
             return {u"no"_s};
         QStringList textos;
@@ -49,6 +49,7 @@ protected:
     Ligador m_ligador{m_regional};
     Adelanto m_adelanto{m_motor, m_traductor, m_formas, m_ligador};
     Cursor::Anillo m_aMedias;
+    qsizetype m_bytesMaximos = 1'000'000;
 };
 
 TEST_F(AdelantoTest, StatementsThatDifferInMoreThanOneNumberAreNotAskedForTogether)
@@ -89,17 +90,31 @@ TEST_F(AdelantoTest, TheSameRowsComeWhateverTheNumberOfKeys)
     }
 }
 
+TEST_F(AdelantoTest, TwoSpellingsOfOneNumberBothGetItsRows)
+{
+    EXPECT_EQ(leidas(con(u"select * from t where a = "_s, {u"3", u"2", u"02"})), (QStringList{u"w"_s, u"xz"_s, u"xz"_s}));
+}
+
+TEST_F(AdelantoTest, WhatTakesMoreMemoryThanThereIsIsNotKept)
+{
+    const auto sentencias = con(u"select * from t where a = "_s, {u"2", u"1"});
+    m_bytesMaximos = 10;
+    EXPECT_EQ(leidas(sentencias), QStringList{u"no"_s});
+    m_bytesMaximos = 1000;
+    EXPECT_EQ(leidas(sentencias), (QStringList{u"xz"_s, u"yv"_s}));
+}
+
 TEST_F(AdelantoTest, TheRowsHaveTheirIdentity)
 {
     const std::vector<QString> sentencias = con(u"select * from t where a = "_s, {u"3", u"1"});
     auto traduccion = m_traductor.traduce(sentencias.front());
     ASSERT_TRUE(traduccion.bien());
     const PlanSentencia plan{std::move(traduccion).valor(), m_motor.catalogo().tabla(u"t")};
-    const auto respuestas = m_adelanto.lee(sentencias, plan, m_aMedias, AlmacenFilas::LimitePorDefecto);
+    const auto respuestas = m_adelanto.lee(sentencias, plan, m_aMedias, AlmacenFilas::LimitePorDefecto, m_bytesMaximos);
     ASSERT_TRUE(respuestas);
     LectorFilas lector{*respuestas->front()};
     ASSERT_TRUE(lector.siguiente());
-    EXPECT_EQ(lector.valor(plan.columnaIdentidad()), Valor{4});
+    EXPECT_EQ(lector.valor(plan.columnaIdentidad()), Valor{4.0});
 }
 
 } // namespace

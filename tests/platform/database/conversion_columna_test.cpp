@@ -46,6 +46,13 @@ TEST(ConversionColumna, WhatCannotBeConvertedIsRefusedWithTheColumnsName)
     EXPECT_EQ(errorEn(TipoColumna::Texto, u"seis!!"_s), ErrorEjecucion::SentenciaRechazada);
 }
 
+TEST(ConversionColumna, ATextWithTheCharacterZeroIsRefused)
+{
+    const QString texto = QString::fromUtf16(u"a\0b", 3);
+    EXPECT_EQ(errorEn(TipoColumna::Texto, texto), ErrorEjecucion::SentenciaRechazada);
+    EXPECT_EQ(errorEn(TipoColumna::Memo, texto), ErrorEjecucion::SentenciaRechazada);
+}
+
 TEST(ConversionColumna, ATextTooWideNamesTheWidths)
 {
     try {

@@ -51,6 +51,28 @@ TEST_F(EstadoInformeTest, AWriteForgetsWhatWasRead)
     EXPECT_FALSE(recuerda());
 }
 
+TEST_F(EstadoInformeTest, AnswersReadAheadHaveHalfOfTheMemoryUntilTheyAreForgotten)
+{
+    Cursor::Anillo aMedias;
+    SentenciaDeFilas::Vista vista;
+    Cursor cabeceras{std::make_unique<SentenciaDeFilas>(3, vista), 1, AlmacenFilas::LimitePorDefecto};
+    cabeceras.ejecuta({}, aMedias);
+    cabeceras.completa();
+    const ConfiguracionRegional regional = ConfiguracionRegional::espania();
+    EXPECT_EQ(m_estado.bytesParaAdelantar(), 50'000);
+    m_estado.anuncia(std::make_unique<Anticipacion>(this, cabeceras, 0, u"x"_s, u""_s, regional));
+    AlmacenFilas filas{1};
+    filas.empiezaFila();
+    filas.ponTextoUtf8("0123456789", 10);
+    filas.terminaFila();
+    const qsizetype bytes = filas.bytes();
+    EXPECT_GT(bytes, 10);
+    m_estado.anticipaciones().front()->guarda({u"1"_s}, {std::make_shared<const AlmacenFilas>(std::move(filas))});
+    EXPECT_EQ(m_estado.bytesParaAdelantar(), 50'000 - bytes);
+    m_estado.alDia(1);
+    EXPECT_EQ(m_estado.bytesParaAdelantar(), 50'000);
+}
+
 TEST_F(EstadoInformeTest, AnAnnouncementGoesWithItsRecordset)
 {
     Cursor::Anillo aMedias;

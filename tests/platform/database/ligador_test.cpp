@@ -83,9 +83,17 @@ TEST(Ligador, ATextWiderThanItsColumnIsRefusedWithBothWidths)
     EXPECT_TRUE(descripcion.contains(u"caben 3"));
 }
 
-TEST(Ligador, AnIntegerOutOfRangeIsAnOverflow)
+TEST(Ligador, AnIntegerOutOfRangeIsRefusedWithTheColumn)
 {
-    EXPECT_THROW(static_cast<void>(ligado({0, TipoColumna::Entero16, 0, false, u"c"_s}, numero(40000))), ErrorEjecucion);
+    EXPECT_TRUE(rechazo({0, TipoColumna::Entero16, 0, false, u"pago"_s}, numero(40000)).contains(u"pago"));
+    EXPECT_TRUE(rechazo({0, TipoColumna::Entero32, 0, false, u"codigo"_s}, numero(3e9)).contains(u"3000000000"));
+    EXPECT_TRUE(rechazo({0, TipoColumna::FechaHora, 0, false, u"fecha3"_s}, numero(1e9)).contains(u"fecha3"));
+}
+
+TEST(Ligador, ATextWithTheCharacterZeroIsRefused)
+{
+    EXPECT_TRUE(rechazo({0, TipoColumna::Memo, 0, false, u"memo1"_s}, texto(QStringView{u"a\0b", 3})).contains(u"memo1"));
+    EXPECT_FALSE(rechazo(marca(TipoColumna::Texto), texto(QStringView{u"a\0b", 3})).isEmpty());
 }
 
 TEST(Ligador, TextsBecomeNumbersAndDatesByTheRegionalSettings)

@@ -98,15 +98,21 @@ std::unique_ptr<MotorBase> motorContado(std::unique_ptr<MotorBase> propio, Pasos
     return std::make_unique<MotorContado>(std::move(propio), pasos);
 }
 
+OpcionesDatos contando(const OpcionesDatos& propias, Pasos& pasos)
+{
+    OpcionesDatos opciones = propias;
+    opciones.abreMotor = [propias, &pasos](const DestinoConexion& destino) {
+        return motorContado(EntornoDatos{propias}.abre(destino), pasos);
+    };
+    return opciones;
+}
+
 OpcionesDatos opcionesContadas(const QString& carpeta, Pasos& pasos)
 {
     OpcionesDatos opciones;
     opciones.carpeta = carpeta;
     opciones.origenes = Origenes::SoloEmbebidos;
-    opciones.abreMotor = [propias = opciones, &pasos](const DestinoConexion& destino) {
-        return motorContado(EntornoDatos{propias}.abre(destino), pasos);
-    };
-    return opciones;
+    return contando(opciones, pasos);
 }
 
 } // namespace kestrane::database

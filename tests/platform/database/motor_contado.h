@@ -27,6 +27,8 @@ struct Pasos
 
 /// An engine that counts what `propio` is asked for. `pasos` must outlive it.
 [[nodiscard]] std::unique_ptr<MotorBase> motorContado(std::unique_ptr<MotorBase> propio, Pasos& pasos);
+/// Options that open what `propias` do, through engines that count. `pasos` must outlive the connections.
+[[nodiscard]] OpcionesDatos contando(const OpcionesDatos& propias, Pasos& pasos);
 /// Options that open embedded files of `carpeta` through an engine that counts. `pasos` must outlive the connections.
 [[nodiscard]] OpcionesDatos opcionesContadas(const QString& carpeta, Pasos& pasos);
 

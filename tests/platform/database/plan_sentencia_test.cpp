@@ -45,6 +45,9 @@ TEST_F(PlanSentenciaTest, HiddenColumnsStandBehindThoseOfTheResult)
     EXPECT_EQ(varias.columnaIdentidad(), 3);
     const PlanSentencia deUnaUnion{consulta(), nullptr};
     EXPECT_EQ(deUnaUnion.columnaIdentidad(), -1);
+    jet::Tabla sinIdentidad = *m_plan.tabla();
+    sinIdentidad.identidad.clear();
+    EXPECT_EQ((PlanSentencia{consulta(), &sinIdentidad}.columnaIdentidad()), -1);
 }
 
 TEST_F(PlanSentenciaTest, TheIdentityComesWithEachRow)
@@ -54,7 +57,7 @@ TEST_F(PlanSentenciaTest, TheIdentityComesWithEachRow)
     cursor.ejecuta(desde, m_aMedias);
     ASSERT_TRUE(cursor.avanza());
     EXPECT_EQ(cursor.lector().valor(1), Valor{u"dos"_s});
-    EXPECT_EQ(cursor.lector().valor(m_plan.columnaIdentidad()), Valor{2});
+    EXPECT_EQ(cursor.lector().valor(m_plan.columnaIdentidad()), Valor{2.0});
     m_plan.devuelve(cursor);
 }
 

@@ -24,7 +24,7 @@ TEST(SentenciasFila, NamesAreQuotedByTheEnginesRules)
     EXPECT_EQ(sqlInsercion(Motor::Sqlite, tabla(), columnas), "insert into \"informes\" (\"raro\"\"`\", \"texto1\") values (?, ?)");
     EXPECT_EQ(sqlInsercion(Motor::MariaDb, tabla(), columnas), "insert into `informes` (`raro\"```, `texto1`) values (?, ?)");
     EXPECT_EQ(sqlModificacion(Motor::PostgreSql, tabla(), columnas),
-              "update \"informes\" set \"raro\"\"`\" = ?, \"texto1\" = ? where \"rowid\" = ?");
+              "update \"informes\" set \"raro\"\"`\" = ?, \"texto1\" = ? where \"rowid\" = cast(? as bigint)");
     EXPECT_EQ(sqlBorrado(Motor::Sqlite, tabla()), "delete from \"informes\" where \"rowid\" = ?");
 }
 
@@ -34,10 +34,20 @@ TEST(SentenciasFila, ARowWithoutColumnsIsOneOfDefaults)
     EXPECT_EQ(sqlInsercion(Motor::MariaDb, tabla(), {}), "insert into `informes` () values ()");
 }
 
-TEST(SentenciasFila, TheIdentityHasTheTypeOfItsColumnOrIsANumber)
+TEST(SentenciasFila, ServersAreToldThatAHiddenIdentityIsWhole)
 {
     jet::Tabla porClave = tabla();
-    EXPECT_EQ(tipoDeIdentidad(porClave), TipoColumna::Entero32);
+    porClave.identidad = u"orden_"_s;
+    EXPECT_EQ(sqlBorrado(Motor::PostgreSql, porClave), "delete from \"informes\" where \"orden_\" = cast(? as bigint)");
+    EXPECT_EQ(sqlBorrado(Motor::MariaDb, porClave), "delete from `informes` where `orden_` = cast(? as signed)");
+    porClave.identidad = u"texto1"_s;
+    EXPECT_EQ(sqlBorrado(Motor::MariaDb, porClave), "delete from `informes` where `texto1` = ?");
+}
+
+TEST(SentenciasFila, TheIdentityHasTheTypeOfItsColumnOrIsANumberOfAnySize)
+{
+    jet::Tabla porClave = tabla();
+    EXPECT_EQ(tipoDeIdentidad(porClave), TipoColumna::Doble);
     porClave.identidad = u"texto1"_s;
     EXPECT_EQ(tipoDeIdentidad(porClave), TipoColumna::Texto);
 }

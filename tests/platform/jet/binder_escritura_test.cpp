@@ -76,16 +76,37 @@ TEST(BinderEscrituraTest, StatementsThatWriteNameTheirTableFirst)
                                                  "(SELECT t1.\"codigo\" FROM \"clientes\" AS t1)"_s);
 }
 
+TEST(BinderEscrituraTest, OnlyComputedValuesThatMayNotFitAreWatched)
+{
+    const auto asignado = [](const QString& asignacion) {
+        return sqlDe(u"update ventas set "_s + asignacion, Motor::Sqlite).section(u" = "_s, 1);
+    };
+    EXPECT_EQ(asignado(u"pago = pago + 1"_s), u"cabe_entero(\"ventas\".\"pago\" + ?, 16, 'pago')");
+    EXPECT_EQ(asignado(u"numero = pago + 1"_s), u"cabe_entero(\"ventas\".\"pago\" + ?, 32, 'numero')");
+    EXPECT_EQ(asignado(u"pago = numero"_s), u"cabe_entero(\"ventas\".\"numero\", 16, 'pago')");
+    EXPECT_EQ(asignado(u"numero = pago"_s), u"\"ventas\".\"pago\"");
+    EXPECT_EQ(asignado(u"pago = 5"_s), u"?");
+    EXPECT_EQ(asignado(u"pago = null"_s), u"NULL");
+    EXPECT_EQ(asignado(u"numero = total > 1"_s), u"-(\"ventas\".\"total\" > ?)");
+    EXPECT_EQ(asignado(u"total = pago + 1"_s), u"\"ventas\".\"pago\" + ?");
+}
+
+TEST(BinderEscrituraTest, ServersWatchTheirColumnsThemselves)
+{
+    EXPECT_FALSE(sqlDe(u"update ventas set pago = pago + 1, tienda = tienda & 'x'"_s, Motor::PostgreSql).contains(u"cabe_"));
+    EXPECT_FALSE(sqlDe(u"update ventas set pago = pago + 1, tienda = tienda & 'x'"_s, Motor::MariaDb).contains(u"cabe_"));
+}
+
 TEST(BinderEscrituraTest, Texts)
 {
     EXPECT_EQ(sqlDe(u"insert into lineas values (1, 2, 'S', 2.5, null)"_s, Motor::Sqlite),
               u"INSERT INTO \"lineas\" (\"num_venta\", \"codigo\", \"tipo\", \"precio\", \"tienda\") VALUES (?, ?, ?, ?, NULL)"_s);
     EXPECT_EQ(sqlDe(u"update ventas set total = total - 1, tienda = tienda & 'x', borrar = true"_s, Motor::Sqlite),
-              u"UPDATE \"ventas\" SET \"total\" = \"ventas\".\"total\" - ?, \"tienda\" = ifnull(\"ventas\".\"tienda\", '') || ?, "
-              "\"borrar\" = -1"_s);
+              u"UPDATE \"ventas\" SET \"total\" = \"ventas\".\"total\" - ?, \"tienda\" = "
+              "cabe_texto(ifnull(\"ventas\".\"tienda\", '') || ?, 50, 'tienda'), \"borrar\" = -1"_s);
     EXPECT_EQ(sqlDe(u"update ventas set borrar = pago, tienda = total, total = pago > 1"_s, Motor::Sqlite),
-              u"UPDATE \"ventas\" SET \"borrar\" = -(\"ventas\".\"pago\" <> 0), \"tienda\" = texto(\"ventas\".\"total\"), "
-              "\"total\" = -(\"ventas\".\"pago\" > ?)"_s);
+              u"UPDATE \"ventas\" SET \"borrar\" = -(\"ventas\".\"pago\" <> 0), \"tienda\" = "
+              "cabe_texto(texto(\"ventas\".\"total\"), 50, 'tienda'), \"total\" = -(\"ventas\".\"pago\" > ?)"_s);
     EXPECT_EQ(sqlDe(u"delete from ventas"_s, Motor::Sqlite), u"DELETE FROM \"ventas\""_s);
 }
 

@@ -47,8 +47,7 @@ TEST(RendererMariadbTest, ADivisionByZeroIsAnErrorAndNoNull)
 
 TEST(RendererMariadbTest, ValuesAsTexts)
 {
-    expresion(u"total & ''"_s, u"CONCAT(IFNULL(REPLACE(TRIM(TRAILING '.' FROM TRIM(TRAILING '0' FROM CAST(CAST(t0.`total` AS "
-                               "DECIMAL(40, 10)) AS CHAR))), '.', ','), ''), ?)"_s);
+    expresion(u"total & ''"_s, u"CONCAT(IFNULL(REPLACE(SFORMAT('{:.15G}', CAST(t0.`total` AS DOUBLE) + 0e0), '.', ','), ''), ?)"_s);
     expresion(u"fecha & ''"_s,
               u"CONCAT(IFNULL(DATE_FORMAT(t0.`fecha`, CASE WHEN DATE(t0.`fecha`) = '1899-12-30' THEN '%k:%i:%s' WHEN "
               "TIME(t0.`fecha`) = '00:00:00' THEN '%d/%m/%Y' ELSE '%d/%m/%Y %k:%i:%s' END), ''), ?)"_s);

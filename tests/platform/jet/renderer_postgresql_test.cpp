@@ -77,8 +77,13 @@ TEST(RendererPostgresqlTest, ConditionsAsValuesAndPartsOfDates)
 TEST(RendererPostgresqlTest, NumbersAndDatesAsTextsAreTheRegionalOnes)
 {
     expresion(u"numero & ''"_s, u"COALESCE(CAST(t0.\"numero\" AS text), '') || CAST(? AS text)"_s);
-    expresion(u"total & ''"_s,
-              u"COALESCE(REPLACE(CAST(TRIM_SCALE(CAST(t0.\"total\" AS numeric)) AS text), '.', ','), '') || CAST(? AS text)"_s);
+    expresion(
+        u"total & ''"_s,
+        u"COALESCE(REPLACE(CASE WHEN CAST(t0.\"total\" AS numeric) = 0 OR ABS(CAST(t0.\"total\" AS numeric)) BETWEEN 0.0001 AND "
+        "999999999999999 THEN CAST(TRIM_SCALE(CAST(t0.\"total\" AS numeric)) AS text) ELSE "
+        "REGEXP_REPLACE(TRIM(TO_CHAR(CAST(t0.\"total\" AS numeric), '9.99999999999999EEEE')), '[.]?0*e', 'E') END, '.', ','), '') "
+        "|| "
+        "CAST(? AS text)"_s);
     expresion(u"fecha & ''"_s, u"COALESCE(CASE WHEN CAST(t0.\"fecha\" AS date) = DATE '1899-12-30' THEN TO_CHAR(t0.\"fecha\", "
                                "'FMHH24:MI:SS') WHEN CAST(t0.\"fecha\" AS time) = TIME '00:00:00' THEN TO_CHAR(t0.\"fecha\", "
                                "'DD/MM/YYYY') ELSE TO_CHAR(t0.\"fecha\", 'DD/MM/YYYY FMHH24:MI:SS') END, '') || CAST(? AS text)"_s);

@@ -19,6 +19,11 @@ TEST(SqlIdentifierTest, QuotesInsideANameAreDoubled)
     EXPECT_EQ(citado(u"ñ\"o", '"'), "x\"\xC3\xB1\"\"o\"");
 }
 
+TEST(SqlIdentifierTest, ANameStandsAloneToo)
+{
+    EXPECT_EQ(SqlIdentifier{u"d'or"}.entre('\''), "'d''or'");
+}
+
 TEST(SqlIdentifierTest, NamesAreWrittenInUtf8)
 {
     EXPECT_EQ(citado(u"codigo", '"'), "x\"codigo\"");

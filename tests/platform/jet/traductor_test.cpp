@@ -54,7 +54,7 @@ TEST(TraductorTest, OtherQueriesCannot)
     }
 }
 
-TEST(TraductorTest, ATableWithoutAnIdentityIsReadButNotEdited)
+TEST(TraductorTest, RowsOfATableWithoutAnIdentityHaveNoHiddenColumn)
 {
     CatalogoPrueba catalogo;
     Tabla tabla;
@@ -64,7 +64,7 @@ TEST(TraductorTest, ATableWithoutAnIdentityIsReadButNotEdited)
     catalogo.anade(tabla);
     const Traductor traductor{catalogo, Motor::PostgreSql, ConfiguracionRegional::espania()};
     const auto todo = traductor.traduce(u"ajena"_s).valor();
-    EXPECT_EQ(todo.tablaEditable, u""_s);
+    EXPECT_EQ(todo.tablaEditable, u"ajena"_s) << "rows can be added to it";
     EXPECT_EQ(QString::fromUtf8(todo.sql),
               u"SELECT t0.\"serie\", t0.\"numero\" FROM \"ajena\" AS t0 ORDER BY t0.\"serie\", t0.\"numero\""_s);
     EXPECT_EQ(QString::fromUtf8(traductor.traduce(u"select distinct serie from ajena"_s).valor().sql),

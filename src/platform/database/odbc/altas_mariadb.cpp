@@ -2,6 +2,7 @@
 
 #include "platform/database/odbc/celdas.h"
 #include "platform/database/odbc/odbc_fecha.h"
+#include "platform/jet/sql_identifier.h"
 
 #include <sqlucode.h>
 
@@ -15,9 +16,9 @@ namespace {
 
 using jet::TipoColumna;
 
-QString entreComillas(QString nombre)
+QString entreComillas(const QString& nombre)
 {
-    return u'`' + nombre.replace(u'`', u"``"_s) + u'`';
+    return QString::fromUtf8(jet::SqlIdentifier{nombre}.entre('`'));
 }
 
 QString sqlDe(const QString& tabla, const std::vector<jet::Columna>& columnas)

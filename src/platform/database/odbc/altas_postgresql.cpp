@@ -1,6 +1,7 @@
 #include "platform/database/odbc/altas_postgresql.h"
 
 #include "platform/database/odbc/celdas.h"
+#include "platform/jet/sql_identifier.h"
 
 #include <sqlucode.h>
 
@@ -36,9 +37,9 @@ QLatin1StringView tipoDeLista(TipoColumna tipo)
     return "text[]"_L1;
 }
 
-QString entreComillas(QString nombre)
+QString entreComillas(const QString& nombre)
 {
-    return u'"' + nombre.replace(u'"', u"\"\""_s) + u'"';
+    return QString::fromUtf8(jet::SqlIdentifier{nombre}.entre('"'));
 }
 
 /// The numbering keeps the rows in their order, whatever the server does with the arrays.

@@ -48,7 +48,8 @@ constexpr Nombrado TiposMariaDb[] = {
 };
 
 // One row for each column: table, column, type, width, null allowed, place in the primary key (from 1, 0: not in it), rules that
-// may refuse a row. The marks are the table's name three times. An exact name goes before one that differs in case.
+// may refuse a row or a default that a Null would displace. The marks are the table's name three times. An exact name goes before
+// one that differs in case.
 constexpr char ConsultaPostgreSql[] = R"(
 select c.relname::varchar, a.attname::varchar, t.typname::varchar,
        case when a.atttypmod > 4 and t.typname in ('varchar', 'bpchar') then a.atttypmod - 4 else 0 end,
@@ -61,6 +62,7 @@ select c.relname::varchar, a.attname::varchar, t.typname::varchar,
                                    where o.attrelid = c.oid and o.attnum = i.indkey[0] and o.attname = 'orden_')))
                  or exists (select 1 from pg_constraint k where k.conrelid = c.oid and k.contype in ('c', 'f', 'x'))
                  or exists (select 1 from pg_trigger d where d.tgrelid = c.oid and not d.tgisinternal)
+                 or (a.atthasdef or t.typdefault is not null) and not (a.attnotnull or t.typnotnull)
             then 1 else 0 end
 from pg_class c join pg_attribute a on a.attrelid = c.oid join pg_type t on t.oid = a.atttypid
 where lower(c.relname) = lower(?) and c.relkind in ('r', 'p', 'v', 'm', 'f') and a.attnum > 0 and not a.attisdropped
@@ -81,6 +83,7 @@ select c.table_name, c.column_name, c.data_type, least(coalesce(c.character_maxi
                                   and k.constraint_type in ('FOREIGN KEY', 'CHECK'))
                  or exists (select 1 from information_schema.triggers d
                             where d.event_object_schema = c.table_schema and d.event_object_table = c.table_name)
+                 or c.is_nullable = 'YES' and upper(coalesce(c.column_default, 'NULL')) <> 'NULL'
             then 1 else 0 end
 from information_schema.columns c
 where c.table_schema = database() and lower(c.table_name) = lower(?)
@@ -132,7 +135,7 @@ std::shared_ptr<jet::Tabla> lee(const std::shared_ptr<OdbcConexion>& conexion, Q
     auto tabla = std::make_shared<jet::Tabla>();
     while (filas.siguiente() && (tabla->nombre.isEmpty() || tabla->nombre == filas.valor(Tabla).texto())) {
         tabla->nombre = filas.valor(Tabla).texto();
-        tabla->tieneClavesUnicas = filas.valor(TieneReglas).entero32() != 0;
+        tabla->tieneClavesUnicas = tabla->tieneClavesUnicas || filas.valor(TieneReglas).entero32() != 0;
         anade(*tabla, filas, conexion->motor());
     }
     if (!tabla->identidad.isEmpty())

@@ -86,10 +86,33 @@ void OdbcColumnas::describe(std::span<const TipoColumna> tipos)
                          u"El resultado tiene %1 columnas y se esperaban %2."_s.arg(columnas).arg(tipos.size())};
     m_maximoFilas = m_conexion.opciones().filasPorBloque;
     for (size_t i = 0; i < tipos.size(); ++i) {
-        m_columnas.push_back(esTexto(tipos[i]) ? describeTexto(static_cast<int>(i), tipos[i])
-                                               : Columna{.tipo = tipos[i], .ancho = pasoDe(tipos[i]).ancho});
+        m_columnas.push_back(describeUna(static_cast<int>(i), tipos[i]));
         m_bytesPorFila += m_columnas.back().ancho + SQLLEN{sizeof(SQLLEN)};
     }
+}
+
+OdbcColumnas::Columna OdbcColumnas::describeUna(int indice, TipoColumna tipo)
+{
+    if (esTexto(tipo))
+        return describeTexto(indice, tipo);
+    // Columns as other programs make them: a time asked for as a date comes with today's, a bit as a number in its first byte
+    // alone.
+    if (tipo == TipoColumna::FechaHora && tipoDeDriver(indice) == SQL_TYPE_TIME)
+        return {.tipo = tipo, .tipoC = SQL_C_TYPE_TIME, .ancho = sizeof(SQL_TIME_STRUCT)};
+    if (tipo == TipoColumna::SiNo && tipoDeDriver(indice) == SQL_BIT)
+        return {.tipo = tipo, .tipoC = SQL_C_BIT, .ancho = sizeof(SQLCHAR)};
+    const Paso paso = pasoDe(tipo);
+    return {.tipo = tipo, .tipoC = paso.tipoC, .ancho = paso.ancho};
+}
+
+SQLSMALLINT OdbcColumnas::tipoDeDriver(int indice) const
+{
+    std::array<SQLWCHAR, 128> nombre{};
+    SQLSMALLINT tipo = 0;
+    m_conexion.exige(SQLDescribeColW(m_sentencia, static_cast<SQLUSMALLINT>(indice + 1), nombre.data(), nombre.size(), nullptr,
+                                     &tipo, nullptr, nullptr, nullptr),
+                     m_sentencia);
+    return tipo;
 }
 
 /// A result with texts that may be longer than their place is read row by row where the driver gives them only then.
@@ -106,6 +129,7 @@ OdbcColumnas::Columna OdbcColumnas::describeTexto(int indice, TipoColumna tipo)
     const SQLULEN enBloque = cabe ? caracteres : CaracteresEnBloque;
     const SQLULEN bytesPorCaracter = 4; // a pair of surrogates, or the longest form in UTF-8
     return {.tipo = tipo,
+            .tipoC = m_conexion.tipoTexto(),
             .ancho = static_cast<SQLLEN>(alineado(static_cast<qsizetype>(enBloque * bytesPorCaracter)) + bytesDelFinal())};
 }
 
@@ -130,10 +154,8 @@ void OdbcColumnas::liga(int filas)
     SQLSetStmtAttrW(m_sentencia, SQL_ATTR_ROW_STATUS_PTR, m_estados.data(), SQL_IS_POINTER);
     for (size_t i = 0; i < m_columnas.size(); ++i) {
         const Columna& columna = m_columnas[i];
-        m_conexion.exige(SQLBindCol(m_sentencia, static_cast<SQLUSMALLINT>(i + 1),
-                                    esTexto(columna.tipo) ? m_conexion.tipoTexto() : pasoDe(columna.tipo).tipoC,
-                                    m_bloque.get() + columna.posicion, columna.ancho,
-                                    reinterpret_cast<SQLLEN*>(m_bloque.get() + columna.indicadores)),
+        m_conexion.exige(SQLBindCol(m_sentencia, static_cast<SQLUSMALLINT>(i + 1), columna.tipoC, m_bloque.get() + columna.posicion,
+                                    columna.ancho, reinterpret_cast<SQLLEN*>(m_bloque.get() + columna.indicadores)),
                          m_sentencia);
     }
 }
@@ -219,18 +241,47 @@ void OdbcColumnas::copiaCelda(AlmacenFilas& destino, int indice)
     case TipoColumna::Entero16:
         return destino.ponEntero16(estrecha<qint16>(lee<SQLBIGINT>(celda)));
     case TipoColumna::SiNo:
-        return destino.ponLogico(lee<SQLBIGINT>(celda) != 0);
+        return destino.ponLogico(columna.tipoC == SQL_C_BIT ? *celda != 0 : lee<SQLBIGINT>(celda) != 0);
     case TipoColumna::Doble:
         return destino.ponDoble(lee<double>(celda));
     case TipoColumna::FechaHora:
-        if (const auto fecha = fechaDe(lee<SQL_TIMESTAMP_STRUCT>(celda)))
-            return destino.ponFecha(*fecha);
-        return destino.ponNulo();
+        return copiaFecha(destino, indice, celda);
     case TipoColumna::Memo:
     case TipoColumna::Texto:
         break;
     }
     copiaTexto(destino, indice, indicador);
+}
+
+void OdbcColumnas::copiaFecha(AlmacenFilas& destino, int indice, const char* celda)
+{
+    if (m_columnas[static_cast<size_t>(indice)].tipoC == SQL_C_TYPE_TIME) {
+        const auto hora = lee<SQL_TIME_STRUCT>(celda);
+        if (hora.hour > 23)
+            fechaIlegible(indice, u"la hora %1:%2"_s.arg(hora.hour).arg(hora.minute));
+        return destino.ponFecha(Fecha::deSerie(0, (hora.hour * 60 + hora.minute) * 60 + hora.second));
+    }
+    const auto marca = lee<SQL_TIMESTAMP_STRUCT>(celda);
+    const auto fecha = fechaDe(marca);
+    if (!fecha)
+        fechaIlegible(indice, u"el día %1/%2/%3"_s.arg(marca.day).arg(marca.month).arg(marca.year));
+    destino.ponFecha(*fecha);
+}
+
+void OdbcColumnas::fechaIlegible(int indice, const QString& leida) const
+{
+    throw ErrorMotor{
+        ErrorMotor::Categoria::Sentencia, ErrorEjecucion::SentenciaRechazada,
+        u"La columna \"%1\" de fechas contiene %2, que no se puede leer. Corrija esa fila."_s.arg(nombre(indice), leida)};
+}
+
+/// For messages; "" when the driver does not tell it.
+QString OdbcColumnas::nombre(int indice) const
+{
+    std::array<SQLWCHAR, 128> nombre{};
+    SQLDescribeColW(m_sentencia, static_cast<SQLUSMALLINT>(indice + 1), nombre.data(), nombre.size(), nullptr, nullptr, nullptr,
+                    nullptr, nullptr);
+    return QString::fromUtf16(reinterpret_cast<const char16_t*>(nombre.data()));
 }
 
 void OdbcColumnas::copiaTexto(AlmacenFilas& destino, int indice, SQLLEN bytes)

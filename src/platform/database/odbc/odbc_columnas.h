@@ -30,19 +30,25 @@ private:
     struct Columna
     {
         jet::TipoColumna tipo = jet::TipoColumna::Texto;
+        SQLSMALLINT tipoC = SQL_C_CHAR;
         SQLLEN ancho = 0;       ///< bytes of a row's place in the block
         qsizetype posicion = 0; ///< of its first place
         qsizetype indicadores = 0;
     };
 
     void describe(std::span<const jet::TipoColumna> tipos);
+    [[nodiscard]] Columna describeUna(int indice, jet::TipoColumna tipo);
     [[nodiscard]] Columna describeTexto(int indice, jet::TipoColumna tipo);
+    [[nodiscard]] SQLSMALLINT tipoDeDriver(int indice) const;
     [[nodiscard]] int filasQueCaben(qsizetype bytes) const;
     void liga(int filas);
     [[nodiscard]] bool leeBloque();
     void exigeFilasBuenas(SQLRETURN resultado);
     void copiaFila(AlmacenFilas& destino);
     void copiaCelda(AlmacenFilas& destino, int columna);
+    void copiaFecha(AlmacenFilas& destino, int columna, const char* celda);
+    [[noreturn]] void fechaIlegible(int columna, const QString& leida) const;
+    [[nodiscard]] QString nombre(int columna) const;
     void copiaTexto(AlmacenFilas& destino, int columna, SQLLEN bytes);
     void leeTextoLargo(AlmacenFilas& destino, int columna, SQLLEN bytes);
     [[nodiscard]] SQLLEN leeTrozo(int columna, char* donde, SQLLEN sitio);

@@ -24,14 +24,24 @@ QString entreLlaves(QString valor)
     return u'{' + valor.replace(u'}', u"}}"_s) + u'}';
 }
 
-QString cadenaDe(const QString& dsn, const QString& usuario, const QString& clave)
+/// A server that goes silent must not hold the program for ever. PostgreSQL's driver knows no bound for an answer, but asks by
+/// itself whether the machine is there; MariaDB's knows one.
+QString vigilancia(const OpcionesOdbc& opciones)
+{
+    constexpr int SegundosEntreSondeos = 10;
+    return u"KeepaliveTime=%1;KeepaliveInterval=%2;READ_TIMEOUT=%3;WRITE_TIMEOUT=%3;"_s.arg(opciones.sondeo.count())
+        .arg(SegundosEntreSondeos)
+        .arg(opciones.esperaRespuesta.count());
+}
+
+QString cadenaDe(const QString& dsn, const QString& usuario, const QString& clave, const OpcionesOdbc& opciones)
 {
     QString cadena = u"DSN="_s + dsn + u';';
     if (!usuario.isEmpty())
         cadena += u"UID="_s + usuario + u';'; // the PostgreSQL driver takes braces for a part of the name
     if (!clave.isEmpty())
         cadena += u"PWD="_s + entreLlaves(clave) + u';';
-    return cadena + Controladores;
+    return cadena + Controladores + vigilancia(opciones);
 }
 
 } // namespace
@@ -42,7 +52,7 @@ OdbcConexion::OdbcConexion(const QString& dsn, const QString& usuario, const QSt
     , m_entorno{entornoOdbc3()}
     , m_conexion{m_entorno.get()}
 {
-    abre(cadenaDe(dsn, usuario, clave));
+    abre(cadenaDe(dsn, usuario, clave, opciones));
     try {
         reconoceServidor();
         preparaSesion();
@@ -91,7 +101,9 @@ void OdbcConexion::preparaSesion()
         // Compiling a statement costs more than the look-ups that it would speed up.
         ejecuta(u"SET standard_conforming_strings = on; SET jit = off"_s);
     else
-        ejecuta(u"SET SESSION sql_mode = 'ANSI_QUOTES,NO_BACKSLASH_ESCAPES,STRICT_ALL_TABLES,NO_ENGINE_SUBSTITUTION', "
+        // Without the last of these modes an UPDATE would reckon with what it has just assigned.
+        ejecuta(u"SET SESSION sql_mode = 'ANSI_QUOTES,NO_BACKSLASH_ESCAPES,STRICT_ALL_TABLES,NO_ENGINE_SUBSTITUTION,"
+                u"SIMULTANEOUS_ASSIGNMENT', "
                 u"collation_connection = utf8mb4_uca1400_spanish_nopad_as_ci"_s);
     ponEspera(m_opciones.espera);
 }

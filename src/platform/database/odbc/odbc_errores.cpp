@@ -87,10 +87,10 @@ struct CasoEjecucion
 
 constexpr CasoEjecucion CasosPostgreSql[] = {
     {u"08", Categoria::ConexionPerdida}, {u"57P", Categoria::ConexionPerdida}, {u"55P03", Categoria::Ocupada},
-    {u"40", Categoria::Ocupada},         {u"23", Categoria::Restriccion},      {u"22001", Categoria::Restriccion},
-    {u"22003", Categoria::Restriccion},  {u"42501", Categoria::SoloLectura},   {u"25006", Categoria::SoloLectura},
-    {u"53", Categoria::SinSitio},        {u"58", Categoria::Danada},           {u"XX001", Categoria::Danada},
-    {u"XX002", Categoria::Danada},
+    {u"57014", Categoria::Ocupada},      {u"40", Categoria::Ocupada},          {u"23", Categoria::Restriccion},
+    {u"22001", Categoria::Restriccion},  {u"22003", Categoria::Restriccion},   {u"42501", Categoria::SoloLectura},
+    {u"25006", Categoria::SoloLectura},  {u"53", Categoria::SinSitio},         {u"58", Categoria::Danada},
+    {u"XX001", Categoria::Danada},       {u"XX002", Categoria::Danada},
 };
 
 struct CasoNativo

@@ -8,7 +8,11 @@
 
 #include <sqlite3.h>
 
+#include <algorithm>
+#include <cmath>
 #include <string_view>
+
+using namespace Qt::StringLiterals;
 
 namespace kestrane::database::sqlite {
 
@@ -130,6 +134,33 @@ void resto(sqlite3_context* contexto, sqlite3_value** valores)
     sqlite3_result_int64(contexto, dividendo % divisorEntero(valores[1]));
 }
 
+/// cabe_texto(value, characters, column).
+void cabeTexto(sqlite3_context* contexto, sqlite3_value** valores)
+{
+    const std::string_view texto = textoDe(valores[0]);
+    const auto empiezaCaracter = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0) != 0x80; };
+    const auto caracteres = std::count_if(texto.begin(), texto.end(), empiezaCaracter);
+    const int ancho = sqlite3_value_int(valores[1]);
+    if (caracteres > ancho)
+        throw ErrorEjecucion(ErrorEjecucion::SentenciaRechazada,
+                             u"el texto calculado tiene %1 caracteres y en la columna \"%2\" caben %3"_s.arg(caracteres)
+                                 .arg(QString::fromUtf8(textoDe(valores[2]).data()))
+                                 .arg(ancho));
+    sqlite3_result_value(contexto, valores[0]);
+}
+
+/// cabe_entero(value, bits, column).
+void cabeEntero(sqlite3_context* contexto, sqlite3_value** valores)
+{
+    const double limite = std::ldexp(1.0, sqlite3_value_int(valores[1]) - 1);
+    const double numero = sqlite3_value_double(valores[0]);
+    if (numero < -limite || numero >= limite)
+        throw ErrorEjecucion(ErrorEjecucion::SentenciaRechazada,
+                             u"el número calculado, %1, no cabe en la columna \"%2\""_s.arg(
+                                 aTexto(numero, regionalDe(contexto)), QString::fromUtf8(textoDe(valores[2]).data())));
+    sqlite3_result_value(contexto, valores[0]);
+}
+
 struct Funcion
 {
     const char* nombre;
@@ -149,6 +180,8 @@ constexpr Funcion Funciones[] = {
     {"division", 2, guardada<division>},
     {"division_entera", 2, guardada<divisionEntera>},
     {"resto", 2, guardada<resto>},
+    {"cabe_texto", 3, guardada<cabeTexto>},
+    {"cabe_entero", 3, guardada<cabeEntero>},
 };
 
 void exige(sqlite3* base, int codigo)

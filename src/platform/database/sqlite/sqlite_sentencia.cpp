@@ -180,12 +180,37 @@ void SqliteSentencia::copiaCampo(AlmacenFilas& destino, int columna, TipoColumna
     case TipoColumna::Entero16:
         return copiaEntero(destino, columna, tipo);
     case TipoColumna::Doble:
-        return destino.ponDoble(sqlite3_column_double(sentencia, columna));
+        return destino.ponDoble(numero(columna));
     case TipoColumna::FechaHora:
         return copiaFecha(destino, columna);
     case TipoColumna::SiNo:
-        return destino.ponLogico(sqlite3_column_double(sentencia, columna) != 0);
+        return destino.ponLogico(numero(columna) != 0);
     }
+}
+
+/// The engine takes the beginning of a text for its number ("12,5" for 12): a text must be one from end to end.
+double SqliteSentencia::numero(int columna) const
+{
+    sqlite3_stmt* const sentencia = m_sentencia.get();
+    const int clase = sqlite3_column_type(sentencia, columna);
+    if (clase == SQLITE_INTEGER || clase == SQLITE_FLOAT)
+        return sqlite3_column_double(sentencia, columna);
+    const auto* texto = reinterpret_cast<const char*>(sqlite3_column_blob(sentencia, columna));
+    bool entero = false;
+    const double leido = QByteArrayView{texto, sqlite3_column_bytes(sentencia, columna)}.toDouble(&entero);
+    if (!entero || clase == SQLITE_BLOB)
+        ilegible(columna, "de números contiene \"%2\", que no es un número");
+    return leido;
+}
+
+void SqliteSentencia::ilegible(int columna, const char* esperado) const
+{
+    sqlite3_stmt* const sentencia = m_sentencia.get();
+    const auto* texto = reinterpret_cast<const char*>(sqlite3_column_text(sentencia, columna));
+    throw ErrorEjecucion(ErrorEjecucion::SentenciaRechazada,
+                         (u"La columna \"%1\" "_s + QString::fromUtf8(esperado) + u". Corrija esa fila."_s)
+                             .arg(QString::fromUtf8(sqlite3_column_name(sentencia, columna)),
+                                  QString::fromUtf8(texto, sqlite3_column_bytes(sentencia, columna))));
 }
 
 void SqliteSentencia::copiaEntero(AlmacenFilas& destino, int columna, TipoColumna tipo)
@@ -194,10 +219,10 @@ void SqliteSentencia::copiaEntero(AlmacenFilas& destino, int columna, TipoColumn
     const qint64 entero = sqlite3_column_int64(sentencia, columna);
     // Nothing keeps other programs from storing fractions or larger numbers in a column of whole ones.
     const bool exacto = sqlite3_column_type(sentencia, columna) == SQLITE_INTEGER && entero == static_cast<qint32>(entero);
-    const qint32 numero = exacto ? static_cast<qint32>(entero) : aEntero32(sqlite3_column_double(sentencia, columna));
+    const qint32 leido = exacto ? static_cast<qint32>(entero) : aEntero32(this->numero(columna));
     if (tipo == TipoColumna::Entero32)
-        return destino.ponEntero32(numero);
-    destino.ponEntero16(aEntero16(static_cast<double>(numero)));
+        return destino.ponEntero32(leido);
+    destino.ponEntero16(aEntero16(static_cast<double>(leido)));
 }
 
 void SqliteSentencia::copiaFecha(AlmacenFilas& destino, int columna)
@@ -211,10 +236,7 @@ void SqliteSentencia::copiaFecha(AlmacenFilas& destino, int columna)
     const std::string_view vista{texto, static_cast<size_t>(sqlite3_column_bytes(sentencia, columna))};
     if (const auto fecha = leeFecha(vista))
         return destino.ponFecha(*fecha);
-    throw ErrorEjecucion(ErrorEjecucion::SentenciaRechazada,
-                         u"La columna \"%1\" de fechas contiene \"%2\", que no es una fecha. Corrija esa fila."_s.arg(
-                             QString::fromUtf8(sqlite3_column_name(sentencia, columna)),
-                             QString::fromUtf8(vista.data(), static_cast<qsizetype>(vista.size()))));
+    ilegible(columna, "de fechas contiene \"%2\", que no es una fecha");
 }
 
 } // namespace kestrane::database::sqlite

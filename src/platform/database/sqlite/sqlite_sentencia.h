@@ -52,8 +52,10 @@ private:
     void avanza();
     void copiaFila(AlmacenFilas& destino);
     void copiaCampo(AlmacenFilas& destino, int columna, jet::TipoColumna tipo);
+    [[nodiscard]] double numero(int columna) const;
     void copiaEntero(AlmacenFilas& destino, int columna, jet::TipoColumna tipo);
     void copiaFecha(AlmacenFilas& destino, int columna);
+    [[noreturn]] void ilegible(int columna, const char* esperado) const;
 
     SqliteMotor& m_motor;
     Preparada m_sentencia;

@@ -102,6 +102,17 @@ TEST_P(OdbcCatalogoEnServidor, AUniqueIndexIsARuleBesideTheHiddenColumns)
     EXPECT_TRUE(motor().catalogo().tabla(u"t")->tieneClavesUnicas);
 }
 
+TEST_P(OdbcCatalogoEnServidor, ADefaultThatANullWouldDisplaceIsARuleToo)
+{
+    crea(u"(b int default 7)"_s);
+    EXPECT_TRUE(c()->tieneClavesUnicas);
+}
+
+TEST_P(OdbcCatalogoEnServidor, ADefaultOfAColumnThatTakesNoNullIsNone)
+{
+    EXPECT_FALSE(motor().catalogo().tabla(u"t")->tieneClavesUnicas) << "of its column s";
+}
+
 TEST_P(OdbcCatalogoEnServidor, ACheckIsARuleToo)
 {
     crea(u"(b int, check (b > 0))"_s);

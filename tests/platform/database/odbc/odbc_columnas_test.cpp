@@ -98,6 +98,43 @@ TEST_P(OdbcColumnas, ANumberThatDoesNotFitItsTypeIsAnOverflowNotAnotherNumber)
     EXPECT_EQ(filas(u"select 2147483647"_s, {TipoColumna::Entero32}), "2147483647|");
 }
 
+TEST_P(OdbcColumnas, ADateThatCannotBeReadIsRefusedWithItsColumn)
+{
+    ejecuta(u"insert into t (a, f) values (1, '0050-03-15')"_s);
+    const auto rechazo = error([this] {
+        filas(u"select a, f as nacimiento from t"_s, {TipoColumna::Entero32, TipoColumna::FechaHora});
+    });
+    ASSERT_TRUE(rechazo);
+    EXPECT_EQ(rechazo->numero(), ErrorEjecucion::SentenciaRechazada);
+    EXPECT_TRUE(rechazo->descripcion().contains(u"\"nacimiento\"")) << qPrintable(rechazo->descripcion());
+    ejecuta(u"update t set f = null"_s);
+    EXPECT_EQ(filas(u"select f from t"_s, {TipoColumna::FechaHora}), "NULL|");
+}
+
+TEST_P(OdbcColumnas, ATimeOfDayComesWithoutADay)
+{
+    const QString una = u"select cast('%1' as time), cast('2024-03-05' as date), cast(null as time)"_s;
+    EXPECT_EQ(filas(una.arg(u"09:05:07"_s) + u" union all "_s + una.arg(u"23:59:58"_s) + u" order by 1"_s,
+                    {TipoColumna::FechaHora, TipoColumna::FechaHora, TipoColumna::FechaHora}),
+              "1899-12-30 9:5:7,2024-3-5 0:0:0,NULL|1899-12-30 23:59:58,2024-3-5 0:0:0,NULL|");
+}
+
+// The drivers do not let it be told from what they give in its place.
+TEST_P(OdbcColumnas, ADateThatNoCalendarHasIsWhatTheDriverMakesOfIt)
+{
+    ejecuta(segun(u"insert into t (f) values ('infinity')", u"insert into t (f) values ('0000-00-00')"));
+    EXPECT_EQ(filas(u"select f from t"_s, {TipoColumna::FechaHora}), esPostgreSql() ? "9999-12-31 23:59:59|" : "NULL|");
+}
+
+TEST_P(OdbcColumnas, BitsOfManyRowsAreFlags)
+{
+    llena(100);
+    std::string esperadas;
+    for (int i = 1; i <= 100; ++i)
+        esperadas += i % 3 == 0 ? "si|" : "no|";
+    EXPECT_EQ(filas(u"select mod(a, 3) = 0 from t order by orden_"_s, {TipoColumna::SiNo}), esperadas);
+}
+
 TEST_P(OdbcColumnas, RowsOfManyWideTextsComeWhole)
 {
     QString sql = u"select a"_s;

@@ -33,6 +33,37 @@ TEST_F(SqliteSentenciaTest, ANumberThatDoesNotFitItsTypeIsAnOverflow)
     EXPECT_THROW(static_cast<void>(sentencia->siguiente(filas)), ErrorEjecucion);
 }
 
+TEST_F(SqliteSentenciaTest, ATextThatIsNoNumberInAColumnOfNumbersIsRefusedWithItsColumn)
+{
+    m_base.ejecuta("create table n (precio DOUBLE, c INTEGER, s YESNO); insert into n values ('12,5', '7 u', 'si')");
+    const std::pair<const char*, TipoColumna> columnas[] = {
+        {"precio", TipoColumna::Doble}, {"c", TipoColumna::Entero32}, {"c", TipoColumna::Entero16}, {"s", TipoColumna::SiNo}};
+    for (const auto& [nombre, tipo] : columnas) {
+        const auto sentencia = prepara(("select " + std::string{nombre} + " from n").c_str(), {tipo});
+        sentencia->ejecuta({});
+        AlmacenFilas filas{1};
+        try {
+            static_cast<void>(sentencia->siguiente(filas));
+            ADD_FAILURE() << nombre;
+        } catch (const ErrorEjecucion& error) {
+            EXPECT_EQ(error.numero(), ErrorEjecucion::SentenciaRechazada);
+            EXPECT_TRUE(error.descripcion().contains(u'"' + QString::fromLatin1(nombre) + u'"'));
+        }
+    }
+}
+
+TEST_F(SqliteSentenciaTest, ATextThatIsANumberFromEndToEndIsRead)
+{
+    const auto sentencia = prepara("select '12.5', '-7', ' 3 '", {TipoColumna::Doble, TipoColumna::Entero32, TipoColumna::Doble});
+    sentencia->ejecuta({});
+    AlmacenFilas filas{3};
+    ASSERT_TRUE(sentencia->siguiente(filas));
+    ASSERT_TRUE(filas.siguiente());
+    EXPECT_EQ(filas.valor(0), Valor{12.5});
+    EXPECT_EQ(filas.valor(1), Valor{-7});
+    EXPECT_EQ(filas.valor(2), Valor{3.0});
+}
+
 TEST_F(SqliteSentenciaTest, ItRunsAgainWithOtherValues)
 {
     const auto sentencia = prepara("select b from t where a = ?", {TipoColumna::Texto});
