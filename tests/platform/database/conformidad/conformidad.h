@@ -45,6 +45,7 @@ protected:
     /// One more connection to the same database, of the same program.
     [[nodiscard]] std::unique_ptr<Conexion> otra(Base base);
     [[nodiscard]] EntornoDatos& entorno() { return *m_entorno; }
+    [[nodiscard]] ContextoMotor& contexto() { return *m_contexto; }
 
     void ejecuta(std::initializer_list<QString> sentencias);
     /// The rows of a query on the shop, "|" behind each, "," between fields.

@@ -26,6 +26,8 @@ public:
     /// Makes an empty table as `crear-tienda` does, with its hidden order if the engine needs one. `orden` and `identidad` are not
     /// looked at; with `tieneClavesUnicas` the first column is a unique key.
     virtual void crearTabla(Base base, const jet::Tabla& tabla) = 0;
+    /// Locks a table against writing, as another program does, until what it returns goes.
+    [[nodiscard]] virtual std::shared_ptr<void> bloquea(Base base, const QString& tabla) = 0;
 };
 
 /// The engine that the program of tests was linked with.

@@ -90,6 +90,18 @@ public:
             ejecuta(motor, sentencia);
     }
 
+    std::shared_ptr<void> bloquea(Base base, const QString& tabla) override
+    {
+        std::shared_ptr<MotorBase> otro = odbc::abre(base == Base::Tienda ? m_dsnTienda : m_dsnListados);
+        if (otro->clase() == jet::Motor::MariaDb) {
+            ejecuta(*otro, u"lock tables `%1` write"_s.arg(tabla));
+            return otro;
+        }
+        ejecuta(*otro, u"begin"_s);
+        ejecuta(*otro, u"lock table \"%1\" in exclusive mode"_s.arg(tabla));
+        return otro;
+    }
+
 private:
     QString m_dsnTienda;
     QString m_dsnListados;

@@ -112,6 +112,23 @@ void Servidor::corta(int numero)
     ejecuta(*verdugo, sql.arg(numero));
 }
 
+void Servidor::cortaLasDemas()
+{
+    const std::string numeros =
+        filas(segun(u"select pid from pg_stat_activity where datname = current_database() and pid <> pg_backend_pid()",
+                    u"select id from information_schema.processlist where db = database() and id <> connection_id()"),
+              {TipoColumna::Entero32});
+    for (const QString& numero : QString::fromStdString(numeros).split(u'|', Qt::SkipEmptyParts))
+        ejecuta(segun(u"do $$ begin perform pg_terminate_backend(%1, 5000); end $$", u"kill %1").arg(numero));
+}
+
+OpcionesDatos Servidor::opcionesDatos() const
+{
+    OpcionesDatos opciones;
+    opciones.abreMotor = [this](const DestinoConexion&) { return otro(); };
+    return opciones;
+}
+
 void Servidor::llena(int hasta)
 {
     ejecuta(segun(u"insert into t (a, x) select n, 'fila ' || n from generate_series(1, %1) n",

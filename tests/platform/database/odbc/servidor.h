@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/database/entorno_datos.h"
 #include "platform/database/error_motor.h"
 #include "platform/database/motor.h"
 #include "platform/database/odbc/odbc_motor.h"
@@ -71,6 +72,10 @@ protected:
     [[nodiscard]] int numeroDeConexion();
     /// Ends the connection from the server's side.
     void corta(int numero);
+    /// The same with all connections to the database but this one.
+    void cortaLasDemas();
+    /// Options of a program whose data sources all lead to this database.
+    [[nodiscard]] OpcionesDatos opcionesDatos() const;
     /// Rows 1 to `hasta` in column a.
     void llena(int hasta);
 

@@ -60,6 +60,15 @@ public:
                     u"create unique index \"clave_%1\" on \"%1\" (\"%2\")"_s.arg(tabla.nombre, tabla.columnas.front().nombre));
     }
 
+    std::shared_ptr<void> bloquea(Base base, const QString&) override
+    {
+        sqlite3* abierta = nullptr;
+        sqlite3_open(m_carpeta.filePath(dsn(base) + u".db"_s).toUtf8().constData(), &abierta);
+        auto propia = std::make_shared<sqlite::Base>(abierta);
+        EXPECT_EQ(sqlite3_exec(abierta, "begin immediate", nullptr, nullptr, nullptr), SQLITE_OK);
+        return propia;
+    }
+
 private:
     void ejecuta(Base base, const QString& sql)
     {
