@@ -5,6 +5,7 @@
 #ifdef Q_OS_WIN
 #include <io.h>
 #else
+#include <fcntl.h>
 #include <unistd.h>
 #endif
 
@@ -16,6 +17,15 @@ bool esTerminal(std::FILE* fichero)
     return _isatty(_fileno(fichero)) != 0;
 #else
     return isatty(fileno(fichero)) != 0;
+#endif
+}
+
+bool estaAbierto(std::FILE* fichero)
+{
+#ifdef Q_OS_WIN
+    return _fileno(fichero) >= 0;
+#else
+    return fcntl(fileno(fichero), F_GETFD) != -1;
 #endif
 }
 

@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <memory>
+#include <unistd.h>
 
 namespace kestrane {
 namespace {
@@ -27,6 +28,15 @@ TEST(EsTerminal, APseudoTerminalIsOne)
     const Fichero terminal{fdopen(posix_openpt(O_RDWR | O_NOCTTY), "w")};
     ASSERT_TRUE(terminal);
     EXPECT_TRUE(esTerminal(terminal.get()));
+}
+
+TEST(EstaAbierto, AStreamThatWasClosedIsNot)
+{
+    const Fichero fichero{std::tmpfile()};
+    ASSERT_TRUE(fichero);
+    EXPECT_TRUE(estaAbierto(fichero.get()));
+    close(fileno(fichero.get()));
+    EXPECT_FALSE(estaAbierto(fichero.get()));
 }
 
 } // namespace
