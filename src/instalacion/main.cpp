@@ -1,15 +1,14 @@
 #include "instalacion/programa.h"
+#include "platform/runtime/salida_estandar.h"
 
 #include <QCoreApplication>
-#include <QFile>
 
+// The application opens files of its own, which would take the place of a closed stream: the streams come first.
 int main(int argc, char** argv)
 {
-    const QCoreApplication aplicacion{argc, argv};
-    QFile salida;
-    QFile errores;
-    if (!salida.open(stdout, QIODevice::WriteOnly) || !errores.open(stderr, QIODevice::WriteOnly | QIODevice::Unbuffered))
-        return kestrane::instalacion::SalidaError;
-    return kestrane::instalacion::ejecutaPrograma(QCoreApplication::arguments(), QCoreApplication::applicationDirPath(), salida,
-                                                  errores);
+    return kestrane::conSalidaEstandar(u"crear-tienda", [&](QIODevice& salida, QIODevice& errores) {
+        const QCoreApplication aplicacion{argc, argv};
+        return kestrane::instalacion::ejecutaPrograma(QCoreApplication::arguments(), QCoreApplication::applicationDirPath(), salida,
+                                                      errores);
+    });
 }

@@ -58,10 +58,11 @@ protected:
         relleno(carga);
         carga.envia();
     }
-    /// For a destructor: the tables of a work that was given up.
+    /// For a destructor: the tables of a work that was given up, a transaction that failed among them.
     void recoge() noexcept
     {
         try {
+            ejecuta(*m_motor, u"ROLLBACK"_s);
             borraTablas();
         } catch (const ErrorEjecucion&) { // the server is gone: nobody can tidy up
         }
@@ -104,11 +105,12 @@ public:
     void termina() override
     {
         ejecuta(motor(), u"COMMIT"_s);
-        m_aLaVista = false;
+        m_aLaVista = true;
     }
+    void confirma() noexcept override { m_aLaVista = false; }
 
 private:
-    bool m_aLaVista = false; ///< tables that others see before they are finished
+    bool m_aLaVista = false; ///< tables that others see and that may still be given up
 };
 
 class ObraEnMariaDb final : public ObraEnServidor
@@ -131,7 +133,8 @@ public:
         rellena(relleno);
         creaIndices();
     }
-    void termina() override { m_empezada = false; }
+    void termina() override {}
+    void confirma() noexcept override { m_empezada = false; }
 
 private:
     bool m_empezada = false;

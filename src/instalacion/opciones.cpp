@@ -1,5 +1,8 @@
 #include "instalacion/opciones.h"
 
+#include "platform/runtime/lector_dia.h"
+#include "platform/runtime/linea_de_ordenes.h"
+
 #include <QCommandLineParser>
 #include <QDir>
 
@@ -35,7 +38,7 @@ constexpr OpcionLinea Lista[] = {
     {u"semilla", u"N", u"semilla de la tienda de demostración; si no se indica, 1"},
     {u"hoy", u"AAAA-MM-DD", u"último día con ventas de la tienda de demostración; si no se indica, 2024-06-14"},
     {u"terminal", u"NOMBRE", u"terminal de la tienda de demostración; si no se indica, el nombre de este equipo"},
-    {u"ayuda", nullptr, u"muestra esta ayuda"},
+    {u"ayuda", nullptr, u"muestra esta ayuda, como -h y --help"},
 };
 
 struct MotorNombrado
@@ -59,36 +62,10 @@ std::optional<jet::Motor> motorDe(const QString& nombre)
 
 void anadeOpciones(QCommandLineParser& linea)
 {
-    linea.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     for (const OpcionLinea& una : Lista)
         linea.addOption({QString::fromUtf16(una.nombre), QString::fromUtf16(una.descripcion),
                          una.valor ? QString::fromUtf16(una.valor) : QString{}});
     linea.addOption({{u"h"_s, u"help"_s}, QString{}});
-}
-
-/// The parser tells the rest in English, with the option between apostrophes.
-QString porQueNo(const QCommandLineParser& linea)
-{
-    if (const QStringList desconocidas = linea.unknownOptionNames(); !desconocidas.isEmpty())
-        return u"No se conoce la opción \"%1\"; vea crear-tienda --ayuda."_s.arg(desconocidas.first());
-    return u"La opción %1 necesita un valor, o no lo admite; vea crear-tienda --ayuda."_s.arg(
-        linea.errorText().section(u'\'', 1, 1));
-}
-
-/// "2024-06-14", nothing else.
-std::optional<Fecha> fechaDe(const QString& texto)
-{
-    const QStringList partes = texto.split(u'-');
-    if (partes.size() != 3 || partes[0].size() != 4 || partes[1].size() != 2 || partes[2].size() != 2)
-        return std::nullopt;
-    std::array<int, 3> numeros{};
-    for (std::size_t i = 0; i < numeros.size(); ++i) {
-        bool esNumero = false;
-        numeros[i] = partes[static_cast<qsizetype>(i)].toInt(&esNumero);
-        if (!esNumero)
-            return std::nullopt;
-    }
-    return Fecha::deCalendario(numeros[0], numeros[1], numeros[2]);
 }
 
 std::optional<quint64> semillaDe(const QString& texto)
@@ -114,12 +91,12 @@ bool pon(const QCommandLineParser& linea, const QString& opcion, Dato& destino, 
 QString leeDemo(const QCommandLineParser& linea, demo::Parametros& parametros)
 {
     if (!pon(linea, u"tipo"_s, parametros.tipo, [](const QString& valor) { return demo::tipoDeTexto(valor); }))
-        return u"No se conoce el tipo \"%1\"; vea crear-tienda --ayuda."_s.arg(linea.value(u"tipo"_s));
+        return u"No se conoce el tipo \"%1\"."_s.arg(linea.value(u"tipo"_s));
     if (!pon(linea, u"tamano"_s, parametros.tamano, [](const QString& valor) { return demo::tamanoDeTexto(valor); }))
         return u"No se conoce el tamaño \"%1\": elija dia, mes, anio o cadena."_s.arg(linea.value(u"tamano"_s));
     if (!pon(linea, u"semilla"_s, parametros.semilla, semillaDe))
         return u"La semilla \"%1\" no es un número."_s.arg(linea.value(u"semilla"_s));
-    if (!pon(linea, u"hoy"_s, parametros.hoy, fechaDe) || parametros.hoy.anio() < 1990)
+    if (!pon(linea, u"hoy"_s, parametros.hoy, [](const QString& valor) { return leeDia(valor); }) || parametros.hoy.anio() < 1990)
         return u"El día \"%1\" no vale: escríbalo como 2024-06-14, de 1990 en adelante."_s.arg(linea.value(u"hoy"_s));
     if (linea.isSet(u"terminal"_s))
         parametros.terminal = linea.value(u"terminal"_s);
@@ -140,7 +117,7 @@ QString opcionDeDemo(const QCommandLineParser& linea)
 QString contradiccion(const QCommandLineParser& linea, jet::Motor motor)
 {
     if (const QStringList sobra = linea.positionalArguments(); !sobra.isEmpty())
-        return u"No se sabe qué hacer con \"%1\"; vea crear-tienda --ayuda."_s.arg(sobra.first());
+        return u"No se sabe qué hacer con \"%1\"."_s.arg(sobra.first());
     if (const QString opcion = opcionDeDemo(linea); linea.isSet(u"vacia"_s) && !opcion.isEmpty())
         return u"Las bases de datos vacías no llevan datos: quite --vacia o --%1."_s.arg(opcion);
     const bool servidor = motor != jet::Motor::Sqlite;
@@ -151,11 +128,9 @@ QString contradiccion(const QCommandLineParser& linea, jet::Motor motor)
     return {};
 }
 
-Opciones::Trabajo trabajoDe(const QCommandLineParser& linea)
+bool pideAyuda(const QCommandLineParser& linea)
 {
-    if (linea.isSet(u"ayuda"_s) || linea.isSet(u"h"_s))
-        return Opciones::Trabajo::Ayuda;
-    return linea.isSet(u"vacia"_s) ? Opciones::Trabajo::Vacias : Opciones::Trabajo::Demostracion;
+    return linea.isSet(u"ayuda"_s) || linea.isSet(u"h"_s);
 }
 
 QString valorDe(const QCommandLineParser& linea, const QString& opcion, const QString& siFalta)
@@ -169,8 +144,10 @@ Resultado<Opciones, QString> leeOpciones(const QStringList& argumentos, const QS
 {
     QCommandLineParser linea;
     anadeOpciones(linea);
-    if (!linea.parse(argumentos))
-        return porQueNo(linea);
+    if (const QString motivo = leeLinea(linea, argumentos); !motivo.isEmpty())
+        return motivo;
+    if (pideAyuda(linea))
+        return Opciones{};
     const QString nombreMotor = valorDe(linea, u"motor"_s, u"sqlite"_s);
     const auto motor = motorDe(nombreMotor);
     if (!motor)
@@ -181,9 +158,10 @@ Resultado<Opciones, QString> leeOpciones(const QStringList& argumentos, const QS
     opciones.demo.terminal = equipo;
     if (const QString motivo = leeDemo(linea, opciones.demo); !motivo.isEmpty())
         return motivo;
-    opciones.trabajo = trabajoDe(linea);
+    opciones.trabajo = linea.isSet(u"vacia"_s) ? Opciones::Trabajo::Vacias : Opciones::Trabajo::Demostracion;
     opciones.motor = *motor;
     opciones.siExiste = linea.isSet(u"reemplazar"_s) ? Opciones::SiExiste::Reemplaza : Opciones::SiExiste::Rehusa;
+    opciones.carpetaPedida = linea.isSet(u"datos"_s);
     opciones.carpeta = valorDe(linea, u"datos"_s, QDir{carpetaPrograma}.filePath(u"datos"_s));
     if (*motor != jet::Motor::Sqlite)
         opciones.dsn = valorDe(linea, u"dsn"_s, u"TiendaKestrane"_s);

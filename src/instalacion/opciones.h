@@ -18,10 +18,11 @@ struct Opciones
     Trabajo trabajo = Trabajo::Ayuda;
     jet::Motor motor = jet::Motor::Sqlite;
     SiExiste siExiste = SiExiste::Rehusa;
-    QString carpeta;       ///< of the embedded databases
-    QString dsn;           ///< of the shop's database on a server
-    QString dsnListados;   ///< of the reports database on a server; "" when the machine's set-up decides
-    demo::Parametros demo; ///< of the demo shop
+    QString carpeta;            ///< of the embedded databases
+    bool carpetaPedida = false; ///< the command line names it
+    QString dsn;                ///< of the shop's database on a server
+    QString dsnListados;        ///< of the reports database on a server; "" when the machine's set-up decides
+    demo::Parametros demo;      ///< of the demo shop
 
     friend bool operator==(const Opciones&, const Opciones&) = default;
 };

@@ -4,6 +4,7 @@
 #include "instalacion/obra.h"
 #include "instalacion/opciones.h"
 #include "platform/database/odbc/odbc_motor.h"
+#include "platform/runtime/error_de_salida.h"
 #include "platform/runtime/error_ejecucion.h"
 
 #include <QDir>
@@ -18,11 +19,32 @@ namespace kestrane::instalacion {
 
 namespace {
 
-using Obras = std::vector<std::unique_ptr<Obra>>;
-
-void escribe(QIODevice& donde, const QString& linea)
+/// Given up in the reverse order of its making, so that a folder is empty when the work that made it goes.
+class Obras
 {
-    donde.write(linea.toUtf8() + '\n');
+public:
+    Obras() = default;
+    ~Obras()
+    {
+        while (!m_obras.empty())
+            m_obras.pop_back();
+    }
+    Obras(const Obras&) = delete;
+    Obras& operator=(const Obras&) = delete;
+
+    void anade(std::unique_ptr<Obra> obra) { m_obras.push_back(std::move(obra)); }
+    [[nodiscard]] Obra& tienda() const { return *m_obras[0]; }
+    [[nodiscard]] Obra& listados() const { return *m_obras[1]; }
+    [[nodiscard]] auto begin() const { return m_obras.begin(); }
+    [[nodiscard]] auto end() const { return m_obras.end(); }
+
+private:
+    std::vector<std::unique_ptr<Obra>> m_obras;
+};
+
+void di(QIODevice& errores, const QString& frase)
+{
+    errores.write("crear-tienda: " + frase.toUtf8() + '\n');
 }
 
 std::unique_ptr<Obra> enCarpeta(const BaseEsquema& base, const Opciones& opciones)
@@ -40,13 +62,11 @@ std::unique_ptr<Obra> obraDeListados(const Opciones& opciones)
     return obraEnServidor(base, opciones.dsnListados.isEmpty() ? QString{base.dsn} : opciones.dsnListados, opciones.motor);
 }
 
-Obras obrasDe(const Opciones& opciones)
+void anadeObras(const Opciones& opciones, Obras& obras)
 {
-    Obras obras;
     const bool enFichero = opciones.motor == jet::Motor::Sqlite;
-    obras.push_back(enFichero ? enCarpeta(baseTienda(), opciones) : obraEnServidor(baseTienda(), opciones.dsn, opciones.motor));
-    obras.push_back(obraDeListados(opciones));
-    return obras;
+    obras.anade(enFichero ? enCarpeta(baseTienda(), opciones) : obraEnServidor(baseTienda(), opciones.dsn, opciones.motor));
+    obras.anade(obraDeListados(opciones));
 }
 
 void exigeSitio(const Obras& obras, const Opciones& opciones)
@@ -59,6 +79,17 @@ void exigeSitio(const Obras& obras, const Opciones& opciones)
                                  u"Ya existe la base de datos \"%1\": elija otro sitio, o añada --reemplazar para hacerla de nuevo "
                                  u"(se pierde lo que contiene)."_s.arg(obra->nombre())};
     }
+}
+
+/// The folder of the reports database would be made in vain: the programs look behind the machine's data source first.
+void exigeCarpetaUtil(const Opciones& opciones)
+{
+    const QString dsn = baseListados().dsn;
+    if (opciones.motor == jet::Motor::Sqlite || !opciones.carpetaPedida || !database::odbc::defineDsn(dsn))
+        return;
+    throw ErrorEjecucion{ErrorEjecucion::ConexionImposible,
+                         u"Este equipo define el origen de datos \"%1\", donde los programas buscan los listados: no se usaría la "
+                         u"carpeta de --datos. Quite --datos, o la definición."_s.arg(dsn)};
 }
 
 void construyeVacias(const Obras& obras)
@@ -78,27 +109,31 @@ void construyeDemostracion(Obra& tienda, Obra& listados, const demo::Parametros&
     });
 }
 
-/// Both are built before one is put in its place.
+/// Both are built before one is put in its place, and both stand there before one is confirmed.
 void crea(const Opciones& opciones, QIODevice& salida)
 {
-    const Obras obras = obrasDe(opciones);
+    exigeCarpetaUtil(opciones);
+    Obras obras;
+    anadeObras(opciones, obras);
     exigeSitio(obras, opciones);
     const bool vacias = opciones.trabajo == Opciones::Trabajo::Vacias;
     if (vacias)
         construyeVacias(obras);
     else
-        construyeDemostracion(*obras[0], *obras[1], opciones.demo);
+        construyeDemostracion(obras.tienda(), obras.listados(), opciones.demo);
+    obras.listados().termina(); // a file can be taken back when the shop's server refuses, not the other way round
+    obras.tienda().termina();
+    for (const auto& obra : obras)
+        obra->confirma();
     const QString frase = vacias ? u"Creada, vacía, la base de datos \"%1\"."_s : u"Creada la base de datos \"%1\"."_s;
-    for (const auto& obra : obras) {
-        obra->termina();
-        escribe(salida, frase.arg(obra->nombre()));
-    }
+    for (const auto& obra : obras)
+        escribeTodo(salida, frase.arg(obra->nombre()).toUtf8() + '\n');
 }
 
 int cumple(const Opciones& opciones, QIODevice& salida)
 {
     if (opciones.trabajo == Opciones::Trabajo::Ayuda) {
-        salida.write(textoDeAyuda().toUtf8());
+        escribeTodo(salida, textoDeAyuda().toUtf8());
         return SalidaBien;
     }
     crea(opciones, salida);
@@ -111,15 +146,17 @@ int ejecutaPrograma(const QStringList& argumentos, const QString& carpetaProgram
 {
     const auto opciones = leeOpciones(argumentos, carpetaPrograma, QSysInfo::machineHostName());
     if (!opciones) {
-        escribe(errores, opciones.error());
+        di(errores, opciones.error() + u" Con --ayuda se ven las opciones."_s);
         return SalidaUso;
     }
     try {
         return cumple(opciones.valor(), salida);
     } catch (const ErrorEjecucion& error) {
-        escribe(errores, error.descripcion());
-        return SalidaError;
+        di(errores, u"error %1: %2"_s.arg(error.numero()).arg(error.descripcion()));
+    } catch (const ErrorDeSalida& error) {
+        di(errores, u"no se puede escribir en la salida estándar (%1)."_s.arg(error.motivo()));
     }
+    return SalidaError;
 }
 
 } // namespace kestrane::instalacion

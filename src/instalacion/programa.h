@@ -9,7 +9,7 @@ namespace kestrane::instalacion {
 
 // The exit status of `crear-tienda`.
 inline constexpr int SalidaBien = 0;
-inline constexpr int SalidaError = 1; ///< it could not be done; what was there is as it was
+inline constexpr int SalidaError = 1; ///< it could not be done: files are as they were, tables on a server may be gone (obra.h)
 inline constexpr int SalidaUso = 2;   ///< the command line makes no sense
 
 /// Runs the program: what was made goes to `salida`, why not to `errores`, one sentence each, in UTF-8. `carpetaPrograma` is where

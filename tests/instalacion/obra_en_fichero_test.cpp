@@ -5,9 +5,12 @@
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+
+#include <stdexcept>
 
 namespace kestrane::instalacion {
 namespace {
@@ -30,6 +33,13 @@ protected:
         fichero.write(contenido);
     }
 
+    static QByteArray contenido(const QString& ruta)
+    {
+        QFile fichero{ruta};
+        EXPECT_TRUE(fichero.open(QIODevice::ReadOnly));
+        return fichero.readAll();
+    }
+
 private:
     QTemporaryDir m_carpeta;
 };
@@ -39,6 +49,7 @@ void hace(const BaseEsquema& base, const QString& ruta)
     const auto obra = obraEnFichero(base, ruta);
     obra->construye({});
     obra->termina();
+    obra->confirma();
 }
 
 TEST_F(ObraEnFichero, TheFileHoldsTheSchema)
@@ -71,7 +82,7 @@ TEST_F(ObraEnFichero, ItsFolderIsMadeAndGoesAgainWhenNothingComesOfIt)
         obra->construye({});
         EXPECT_TRUE(QFile::exists(carpeta));
     }
-    EXPECT_FALSE(QFile::exists(carpeta));
+    EXPECT_EQ(ficheros(), "") << "nor the folder around it";
     hace(baseListados(), carpeta + u"/L.db"_s);
     EXPECT_EQ(ficheros(carpeta), "L.db");
 }
@@ -88,14 +99,80 @@ TEST_F(ObraEnFichero, AFileThatIsThereStaysUntilItsSuccessorIsFinishedAndTakesIt
     ASSERT_TRUE(vieja.open(QIODevice::ReadOnly));
     EXPECT_EQ(vieja.readAll(), "vieja");
     obra->termina();
+    obra->confirma();
     EXPECT_EQ(ficheros(), "TiendaKestrane.db");
     database::sqlite::SqliteMotor motor{{.fichero = ruta()}};
     expectEsquema(motor, baseListados());
 }
 
+TEST_F(ObraEnFichero, UntilItIsConfirmedTheFileThatWasThereComesBack)
+{
+    hace(baseTienda(), ruta());
+    const QByteArray antes = contenido(ruta());
+    {
+        const auto obra = obraEnFichero(baseListados(), ruta());
+        obra->construye({});
+        obra->termina();
+        EXPECT_NE(contenido(ruta()), antes);
+    }
+    EXPECT_EQ(contenido(ruta()), antes);
+    EXPECT_EQ(ficheros(), "TiendaKestrane.db");
+}
+
+TEST_F(ObraEnFichero, UntilItIsConfirmedItGoesAgainWhereNothingWas)
+{
+    {
+        const auto obra = obraEnFichero(baseListados(), ruta(u"una/L.db"_s));
+        obra->construye({});
+        obra->termina();
+    }
+    EXPECT_EQ(ficheros(), "");
+}
+
+TEST_F(ObraEnFichero, AFillThatFailsLeavesWhatWasThere)
+{
+    hace(baseListados(), ruta());
+    const QByteArray antes = contenido(ruta());
+    {
+        const auto obra = obraEnFichero(baseListados(), ruta());
+        EXPECT_THROW(obra->construye([](Carga&) { throw std::runtime_error{"en medio"}; }), std::runtime_error);
+    }
+    EXPECT_EQ(contenido(ruta()), antes);
+    EXPECT_EQ(ficheros(), "TiendaKestrane.db");
+}
+
+TEST_F(ObraEnFichero, AFileThatAnotherProgramHasLockedIsNotReplaced)
+{
+    hace(baseListados(), ruta());
+    database::sqlite::SqliteMotor otro{{.fichero = ruta()}};
+    ejecuta(otro, u"BEGIN IMMEDIATE"_s);
+    const auto obra = obraEnFichero(baseListados(), ruta());
+    obra->construye({});
+    EXPECT_THROW(obra->termina(), ErrorEjecucion);
+    ejecuta(otro, u"ROLLBACK"_s);
+}
+
+TEST_F(ObraEnFichero, AReportsDatabaseThatAProgramHasOpenIsNotReplacedAndKeepsItsLog)
+{
+    hace(baseListados(), ruta());
+    database::sqlite::SqliteMotor otro{{.fichero = ruta(), .uso = database::sqlite::Uso::Listados}};
+    ejecuta(otro, u"insert into listadostemporal (list1) values ('7')"_s);
+    ASSERT_GT(QFileInfo{ruta() + u"-wal"_s}.size(), 0);
+    {
+        const auto obra = obraEnFichero(baseListados(), ruta());
+        obra->construye({});
+        EXPECT_THROW(obra->termina(), ErrorEjecucion);
+    }
+    EXPECT_GT(QFileInfo{ruta() + u"-wal"_s}.size(), 0);
+    EXPECT_EQ(ficheros(), "TiendaKestrane.db TiendaKestrane.db-shm TiendaKestrane.db-wal");
+}
+
 TEST_F(ObraEnFichero, WhatAnInterruptedRunLeftIsNoObstacle)
 {
-    escribe(ruta() + u".nueva"_s, "restos");
+    const QString proceso = QString::number(QCoreApplication::applicationPid());
+    escribe(ruta(), "vieja");
+    escribe(ruta() + u".nueva-"_s + proceso, "restos");
+    escribe(ruta() + u".anterior-"_s + proceso, "restos");
     hace(baseListados(), ruta());
     EXPECT_EQ(ficheros(), "TiendaKestrane.db");
 }

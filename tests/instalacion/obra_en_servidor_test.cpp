@@ -37,6 +37,7 @@ protected:
         const auto suya = obra(base);
         suya->construye({});
         suya->termina();
+        suya->confirma();
     }
     [[nodiscard]] database::MotorBase& motor() { return *m_motor; }
     [[nodiscard]] bool esPostgreSql() const { return GetParam().motor == jet::Motor::PostgreSql; }
@@ -146,6 +147,39 @@ TEST_P(ObraEnServidor, AFailureHalfWayLeavesNothingHalfMade)
     if (!esPostgreSql())
         ejecuta(motor(), u"drop view listadostemporal"_s);
     ejecuta(motor(), u"drop table ajena"_s);
+}
+
+TEST_P(ObraEnServidor, AFillThatFailsLeavesNothingHalfMade)
+{
+    EXPECT_THROW(obra()->construye([](Carga&) { throw ErrorEjecucion{ErrorEjecucion::Desbordamiento}; }), ErrorEjecucion);
+    EXPECT_FALSE(hay(u"informes"_s));
+    EXPECT_FALSE(hay(u"listadostemporal"_s));
+}
+
+TEST_P(ObraEnServidor, AFailureBehindTheFillLeavesNothingHalfMade)
+{
+    ejecuta(motor(), u"drop table if exists ajena"_s);
+    ejecuta(motor(), u"create table ajena (a int)"_s);
+    const QString indice = u"ix_informes_texto21"_s;
+    EXPECT_THROW(obra()->construye([&](Carga&) {
+        ejecuta(motor(), esPostgreSql() ? u"create index %1 on ajena (a)"_s.arg(indice)
+                                        : u"create index %1 on informes (texto21)"_s.arg(indice));
+    }),
+                 ErrorEjecucion);
+    EXPECT_FALSE(hay(u"informes"_s));
+    EXPECT_TRUE(hay(u"ajena"_s));
+    ejecuta(motor(), u"drop table ajena"_s);
+}
+
+TEST_P(ObraEnServidor, UntilItIsConfirmedItGoesAgain)
+{
+    {
+        const auto suya = obra();
+        suya->construye({});
+        suya->termina();
+        EXPECT_TRUE(hay(u"informes"_s));
+    }
+    EXPECT_FALSE(hay(u"informes"_s));
 }
 
 TEST_P(ObraEnServidor, AnotherKindOfServerThanAskedForIsRefused)

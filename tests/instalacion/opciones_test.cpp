@@ -21,14 +21,19 @@ std::string rechazo(const QStringList& argumentos)
 
 TEST(OpcionesCrearTienda, WhatMakesNoSenseIsRefusedWithASentence)
 {
-    EXPECT_EQ(rechazo({u"--vacio"_s}), "No se conoce la opción \"vacio\"; vea crear-tienda --ayuda.");
+    EXPECT_EQ(rechazo({u"--vacio"_s}), "Opción desconocida: --vacio.");
     EXPECT_EQ(rechazo({u"--motor"_s, u"oracle"_s}), "No se conoce el motor \"oracle\": elija sqlite, postgresql o mariadb.");
-    EXPECT_EQ(rechazo({u"--tipo"_s, u"Peluqueria"_s}), "No se conoce el tipo \"Peluqueria\"; vea crear-tienda --ayuda.");
+    EXPECT_EQ(rechazo({u"--tipo"_s, u"Peluqueria"_s}), "No se conoce el tipo \"Peluqueria\".");
     EXPECT_EQ(rechazo({u"--tamano"_s, u"siglo"_s}), "No se conoce el tamaño \"siglo\": elija dia, mes, anio o cadena.");
     EXPECT_EQ(rechazo({u"--semilla"_s, u"x"_s}), "La semilla \"x\" no es un número.");
     EXPECT_EQ(rechazo({u"--hoy"_s, u"2024-02-30"_s}),
               "El día \"2024-02-30\" no vale: escríbalo como 2024-06-14, de 1990 en adelante.");
-    EXPECT_EQ(rechazo({u"otra"_s}), "No se sabe qué hacer con \"otra\"; vea crear-tienda --ayuda.");
+    EXPECT_EQ(rechazo({u"--hoy"_s, u"2024-+3-+5"_s}),
+              "El día \"2024-+3-+5\" no vale: escríbalo como 2024-06-14, de 1990 en adelante.");
+    EXPECT_EQ(rechazo({u"--vacia=si"_s, u"--reemplazar"_s}), "--vacia no lleva valor.");
+    EXPECT_EQ(rechazo({u"--datos"_s, u""_s}), "A --datos le falta su valor.");
+    EXPECT_EQ(rechazo({u"--vacia"_s, u"--motor"_s}), "A --motor le falta su valor.");
+    EXPECT_EQ(rechazo({u"otra"_s}), "No se sabe qué hacer con \"otra\".");
 }
 
 TEST(OpcionesCrearTienda, ContradictionsAreRefused)

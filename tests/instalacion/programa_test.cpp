@@ -1,8 +1,12 @@
 #include "instalacion/programa.h"
 
+#include "instalacion/obra.h"
+#include "platform/database/sqlite/sqlite_motor.h"
+
 #include <gtest/gtest.h>
 
 #include <QBuffer>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -38,6 +42,19 @@ protected:
         EXPECT_EQ(m_salida, "");
         EXPECT_EQ(std::ranges::count(m_errores, '\n'), 1) << "one sentence: " << m_errores;
     }
+    /// One sentence with the number of what cannot be opened or made.
+    void expectError(const std::string& comienzo)
+    {
+        const std::string entero = "crear-tienda: error -2147467259: " + comienzo;
+        EXPECT_EQ(m_errores.substr(0, entero.size()), entero);
+        EXPECT_EQ(std::ranges::count(m_errores, '\n'), 1) << m_errores;
+    }
+    [[nodiscard]] QByteArray contenido(const QString& nombre) const
+    {
+        QFile fichero{ruta(nombre)};
+        EXPECT_TRUE(fichero.open(QIODevice::ReadOnly));
+        return fichero.readAll();
+    }
     [[nodiscard]] QString ruta(const QString& nombre) const { return m_carpeta.filePath(nombre); }
 
     std::string m_salida;
@@ -49,11 +66,20 @@ private:
 
 TEST_F(Programa, WhatItDoesNotUnderstandItSaysInOneSentence)
 {
-    expectUso({u"--vacias"_s}, "No se conoce la opción \"vacias\"");
-    expectUso({u"--vacia"_s, u"--motor"_s}, "La opción --motor necesita un valor");
-    expectUso({u"--vacia"_s, u"--motor"_s, u"oracle"_s}, "No se conoce el motor \"oracle\"");
-    expectUso({u"--vacia"_s, u"aqui"_s}, "No se sabe qué hacer con \"aqui\"");
-    expectUso({u"--vacia"_s, u"--dsn"_s, u"X"_s}, "Con un origen de datos hay que indicar el servidor");
+    expectUso({u"--vacias"_s}, "crear-tienda: Opción desconocida: --vacias. Con --ayuda");
+    expectUso({u"--vacia"_s, u"--motor"_s}, "crear-tienda: A --motor le falta su valor. ");
+    expectUso({u"--vacia"_s, u"--motor"_s, u"oracle"_s}, "crear-tienda: No se conoce el motor \"oracle\"");
+    expectUso({u"--vacia"_s, u"aqui"_s}, "crear-tienda: No se sabe qué hacer con \"aqui\"");
+    expectUso({u"--vacia"_s, u"--dsn"_s, u"X"_s}, "crear-tienda: Con un origen de datos hay que indicar el servidor");
+}
+
+TEST_F(Programa, AnOutputThatTakesNothingIsAnError)
+{
+    QBuffer cerrada;
+    QBuffer errores;
+    errores.open(QIODevice::WriteOnly);
+    EXPECT_EQ(ejecutaPrograma({u"crear-tienda"_s, u"--ayuda"_s}, ruta(u""_s), cerrada, errores), SalidaError);
+    EXPECT_EQ(errores.data(), "crear-tienda: no se puede escribir en la salida estándar (no se sabe por qué).\n");
 }
 
 TEST_F(Programa, HelpIsInSpanishAndNoError)
@@ -88,7 +114,7 @@ TEST_F(Programa, OneDatabaseThatIsThereKeepsBothFromBeingMade)
     vieja.write("vieja");
     vieja.close();
     EXPECT_EQ(corre({u"--vacia"_s}), SalidaError);
-    EXPECT_EQ(m_errores.substr(0, 29), "Ya existe la base de datos \"" + ruta(u"x"_s).left(1).toStdString());
+    expectError("Ya existe la base de datos \"");
     EXPECT_NE(m_errores.find("--reemplazar"), std::string::npos);
     EXPECT_EQ(ficheros(u"datos"_s), "ListKestrane.db");
     EXPECT_EQ(corre({u"--vacia"_s, u"--reemplazar"_s}), SalidaBien);
@@ -100,14 +126,41 @@ TEST_F(Programa, AFolderThatCannotBeMadeIsAnErrorAndNothingStays)
     QFile estorbo{ruta(u"datos"_s)};
     ASSERT_TRUE(estorbo.open(QIODevice::WriteOnly));
     EXPECT_EQ(corre({u"--vacia"_s}), SalidaError);
-    EXPECT_EQ(m_errores.substr(0, 40), "No se puede escribir la base de datos \"/");
+    expectError("No se puede escribir la base de datos \"");
     EXPECT_EQ(m_salida, "");
+}
+
+TEST_F(Programa, WhenOneOfThemIsLockedBothStayAsTheyWere)
+{
+    for (const QString& nombre : {u"TiendaKestrane.db"_s, u"ListKestrane.db"_s}) {
+        ASSERT_EQ(corre({u"--vacia"_s, u"--reemplazar"_s}), SalidaBien) << m_errores;
+        const QByteArray tienda = contenido(u"datos/TiendaKestrane.db"_s);
+        const QDateTime listados = QFileInfo{ruta(u"datos/ListKestrane.db"_s)}.lastModified();
+        {
+            database::sqlite::SqliteMotor otro{{.fichero = ruta(u"datos/"_s + nombre)}};
+            ejecuta(otro, u"BEGIN IMMEDIATE"_s);
+            EXPECT_EQ(corre({u"--tamano"_s, u"dia"_s, u"--reemplazar"_s}), SalidaError);
+            ejecuta(otro, u"ROLLBACK"_s);
+        }
+        EXPECT_NE(m_errores.find("bloqueada por otro programa"), std::string::npos) << m_errores;
+        EXPECT_EQ(m_salida, "");
+        EXPECT_EQ(ficheros(u"datos"_s), "ListKestrane.db TiendaKestrane.db");
+        EXPECT_EQ(contenido(u"datos/TiendaKestrane.db"_s), tienda);
+        EXPECT_EQ(QFileInfo{ruta(u"datos/ListKestrane.db"_s)}.lastModified(), listados);
+    }
+}
+
+TEST_F(Programa, OfAllFoldersThatWereMadeNoneStaysBehindAFailure)
+{
+    const QString larga{200, u'x'}; // three of them are more than the engine opens
+    EXPECT_EQ(corre({u"--vacia"_s, u"--datos"_s, ruta(u"n1/"_s + larga + u'/' + larga + u'/' + larga)}), SalidaError);
+    EXPECT_FALSE(QFile::exists(ruta(u"n1"_s)));
 }
 
 TEST_F(Programa, ADataSourceThatIsNotDefinedIsAnError)
 {
     EXPECT_EQ(corre({u"--vacia"_s, u"--motor"_s, u"mariadb"_s, u"--dsn"_s, u"NoExiste"_s}), SalidaError);
-    EXPECT_EQ(m_errores.substr(0, 43), "El origen de datos ODBC \"NoExiste\" no exist");
+    expectError("El origen de datos ODBC \"NoExiste\" no exist");
 }
 
 } // namespace
