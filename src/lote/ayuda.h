@@ -40,7 +40,7 @@ Opciones de SQL, para ejecutar sentencias y escribir una línea de JSON por cada
 Opciones:
   --datos CARPETA              carpeta de las bases de datos; si no se indica, "datos" junto al programa
   --regional NOMBRE            configuración regional, por ejemplo es_ES; si no se indica, la del equipo
-  -h, --ayuda                  muestra esta ayuda
+  -h, --ayuda, --help          muestra esta ayuda
 
 Estado de salida: 0 hecho, 1 error (su número y su descripción salen por la salida de errores), 2 uso incorrecto, 3 ningún
 informe tenía datos.

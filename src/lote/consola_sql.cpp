@@ -1,5 +1,6 @@
 #include "lote/consola_sql.h"
 
+#include "lote/escritor_informes.h"
 #include "lote/escritor_json.h"
 #include "platform/database/recordset.h"
 #include "platform/runtime/error_ejecucion.h"
@@ -9,9 +10,6 @@ namespace kestrane::lote {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Bytes of a line that are held before they go out.
-constexpr qsizetype TrozoDeSalida = 64 * 1024;
 
 void anadeColumnas(QByteArray& linea, std::span<const jet::ColumnaResultado> columnas)
 {
@@ -41,16 +39,18 @@ void anadeFila(QByteArray& linea, Recordset& fila)
 
 } // namespace
 
-ConsolaSql::ConsolaSql(database::Conexion& conexion, Permiso permiso, QIODevice& salida)
+ConsolaSql::ConsolaSql(database::Conexion& conexion, Permiso permiso, QIODevice& salida, Avisos& avisos)
     : m_conexion{conexion}
     , m_permiso{permiso}
     , m_salida{salida}
+    , m_avisos{avisos}
 {
 }
 
 std::optional<ErrorEjecucion> ConsolaSql::ejecuta(QStringView sentencia)
 {
     m_linea.clear();
+    m_avisos.avanza();
     try {
         responde(sentencia.toString());
         return {};
@@ -112,10 +112,9 @@ void ConsolaSql::responde(const ErrorEjecucion& error)
 
 void ConsolaSql::envia()
 {
-    if (m_salida.write(m_linea) != m_linea.size())
-        throw ErrorDeSalida{m_salida.errorString()};
+    m_avisos.empiezanLosResultados();
     m_aMedias = !m_linea.endsWith('\n');
-    m_linea.clear();
+    vuelca(m_linea, m_salida);
 }
 
 QString sinEscapes(QStringView linea)

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "lote/error_de_salida.h"
+#include "lote/avisos.h"
 #include "platform/database/conexion.h"
+#include "platform/runtime/error_de_salida.h"
 #include "platform/runtime/error_ejecucion.h"
 
 #include <QIODevice>
@@ -19,8 +20,9 @@ class ConsolaSql
 public:
     enum class Permiso { SoloLectura, Escritura };
 
-    /// `conexion` is open and outlives the console. Under SoloLectura anything but a SELECT answers with an error and is not run.
-    ConsolaSql(database::Conexion& conexion, Permiso permiso, QIODevice& salida);
+    /// `conexion` is open; it and the other two outlive the console. `avisos` counts the statements. Under SoloLectura anything but
+    /// a SELECT answers with an error and is not run.
+    ConsolaSql(database::Conexion& conexion, Permiso permiso, QIODevice& salida, Avisos& avisos);
 
     /// One statement; the error that it answered with, if it did. Rows go out as they are read, so their number does not matter: an
     /// error in the midst of them leaves their line cut off and stands on the next one. ErrorDeSalida when nothing can be written.
@@ -39,6 +41,7 @@ private:
     database::Conexion& m_conexion;
     Permiso m_permiso;
     QIODevice& m_salida;
+    Avisos& m_avisos;
     QByteArray m_linea;
     bool m_aMedias = false; ///< a line of rows has been sent in part
 };

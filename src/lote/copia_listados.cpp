@@ -4,9 +4,14 @@
 #include "platform/database/conexion.h"
 #include "platform/database/recordset.h"
 #include "platform/runtime/error_ejecucion.h"
+#include "platform/runtime/motivo_sistema.h"
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+
+#include <filesystem>
+#include <system_error>
 
 namespace kestrane::lote {
 
@@ -15,6 +20,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString Dsn = u"ListKestrane"_s;
+const QString Ending = u".db"_s;
 
 [[noreturn]] void noSePuede(const QString& motivo)
 {
@@ -43,12 +49,13 @@ bool esLaMisma(const QString& una, const QString& otra)
 
 } // namespace
 
-CopiaListados::CopiaListados(const database::OpcionesDatos& originales, const QString& carpeta)
+CopiaListados::CopiaListados(const database::OpcionesDatos& originales, const QString& destino)
     : m_originales{originales}
-    , m_carpeta{eligeCarpeta(carpeta)}
+    , m_destino{destino}
+    , m_carpeta{haceCarpeta()}
     , m_copia{originales}
 {
-    m_copia.carpeta = m_carpeta;
+    m_copia.carpeta = carpeta();
     m_copia.origenes = database::Origenes::SoloEmbebidos;
     m_copia.abreMotor = {};
     creaFichero();
@@ -56,27 +63,38 @@ CopiaListados::CopiaListados(const database::OpcionesDatos& originales, const QS
     copia();
 }
 
-QString CopiaListados::eligeCarpeta(const QString& carpeta)
+/// Inside the folder in which the copy is to be kept, so that it takes its place there in one step.
+std::unique_ptr<QTemporaryDir> CopiaListados::haceCarpeta() const
 {
-    if (carpeta.isEmpty()) {
-        m_propia = std::make_unique<QTemporaryDir>();
-        return m_propia->isValid() ? m_propia->path() : (noSePuede(m_propia->errorString()), QString{});
-    }
-    if (!QDir{}.mkpath(carpeta))
-        noSePuede(u"no se puede crear la carpeta \"%1\""_s.arg(carpeta));
-    if (esLaMisma(carpeta, m_originales.carpeta))
-        noSePuede(u"\"%1\" es la carpeta de la original, que no se toca"_s.arg(carpeta));
+    if (!m_destino.isEmpty())
+        compruebaDestino();
+    const QString donde = m_destino.isEmpty() ? QDir::tempPath() : m_destino;
+    if (donde.isEmpty()) // the environment names a folder that is not there
+        noSePuede(u"no se puede escribir en la carpeta \"%1\" (no existe)"_s.arg(qEnvironmentVariable("TMPDIR")));
+    auto carpeta = std::make_unique<QTemporaryDir>(QDir{donde}.filePath(u"listados-lote-XXXXXX"_s));
+    if (!carpeta->isValid())
+        noSePuede(u"no se puede escribir en la carpeta \"%1\" (%2)"_s.arg(donde, motivoDeTexto(carpeta->errorString())));
     return carpeta;
+}
+
+void CopiaListados::compruebaDestino() const
+{
+    std::error_code error;
+    std::filesystem::create_directories(std::filesystem::path{m_destino.toStdU16String()}, error);
+    if (error)
+        noSePuede(u"no se puede crear la carpeta \"%1\" (%2)"_s.arg(m_destino, motivoDe(error)));
+    if (esLaMisma(m_destino, m_originales.carpeta))
+        noSePuede(u"\"%1\" es la carpeta de la original, que no se toca"_s.arg(m_destino));
+    if (QFileInfo::exists(QDir{m_destino}.filePath(instalacion::baseTienda().dsn + Ending)))
+        noSePuede(u"en \"%1\" está la base de datos de una tienda, y se perderían sus listados"_s.arg(m_destino));
 }
 
 void CopiaListados::creaFichero() const
 {
-    const QString nombre = QDir{m_carpeta}.filePath(Dsn + u".db"_s);
-    for (const QString& cola : {u""_s, u"-wal"_s, u"-shm"_s})
-        QFile::remove(nombre + cola);
+    const QString nombre = QDir{carpeta()}.filePath(Dsn + Ending);
     QFile fichero{nombre};
     if (!fichero.open(QIODevice::WriteOnly | QIODevice::NewOnly))
-        noSePuede(u"no se puede escribir \"%1\" (%2)"_s.arg(nombre, fichero.errorString()));
+        noSePuede(u"no se puede escribir \"%1\" (%2)"_s.arg(nombre, motivoDe(fichero)));
 }
 
 void CopiaListados::creaTablas() const
@@ -110,6 +128,20 @@ void CopiaListados::copia() const
     }
     destino.Close();
     copia.Close();
+}
+
+void CopiaListados::conserva() const
+{
+    if (m_destino.isEmpty())
+        return;
+    const QString anterior = QDir{m_destino}.filePath(Dsn + Ending);
+    for (const QString& cola : {u"-wal"_s, u"-shm"_s}) // the log of the older one would be taken for this one's
+        QFile::remove(anterior + cola);
+    std::error_code error;
+    std::filesystem::rename(std::filesystem::path{QDir{carpeta()}.filePath(Dsn + Ending).toStdU16String()},
+                            std::filesystem::path{anterior.toStdU16String()}, error);
+    if (error)
+        noSePuede(u"no se puede escribir \"%1\" (%2)"_s.arg(anterior, motivoDe(error)));
 }
 
 database::OpcionesDatos CopiaListados::opciones() const

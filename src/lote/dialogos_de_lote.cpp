@@ -9,11 +9,28 @@ namespace kestrane::lote {
 
 using namespace Qt::StringLiterals;
 
+/// The buttons of a panel: the rows that fill it, and what its button for all of them reads.
+struct DialogosDeLote::Panel
+{
+    QStringView sentencia;
+    QStringView todos;
+};
+
 namespace {
+
+constexpr qint32 Todos = -1; // the code of that button
 
 constexpr QStringView OrdenesDeProductos[] = {u"Nombre", u"Seccion", u"Proveedor", u"Codigo", u"Stock"};
 constexpr QStringView OrdenesDeClientes[] = {u"Nombre", u"Ingreso", u"nacimiento", u"UltimaVisita", u"Apellidos"};
 constexpr QStringView OrdenesDeServicios[] = {u"Nombre", u"Seccion", u"Codigo"};
+
+constexpr DialogosDeLote::Panel PanelEmpleados{u"Select codigo,nombre,apellidos,imagen,color,emp_color from empleados where baja= "
+                                               u"false and mostrar_caja = -1 order by posicion",
+                                               u"Todos los Empleados"};
+constexpr DialogosDeLote::Panel PanelProveedores{u"Select * from Proveedores where Borrar=false order by posicion",
+                                                 u"Todos los Proveedores"};
+constexpr DialogosDeLote::Panel PanelSecciones{u"Select * from Seccion where Borrar=false order by posicion",
+                                               u"Todas las Secciones"};
 
 QString tituloDeClase(const QString& clase)
 {
@@ -22,6 +39,16 @@ QString tituloDeClase(const QString& clase)
     if (clase == u"CI")
         return u"LISTADO X TIPO DE PRODUCTOS = Productos de Consumo Interno"_s;
     return clase == u"A" ? u"LISTADO X TIPO DE PRODUCTOS = Ambos"_s : u"LISTADO X TIPO DE PRODUCTOS = Todos"_s;
+}
+
+const QString* tiendaLlamada(const ContextoEjecucion& contexto, const QString& tienda, Qt::CaseSensitivity mayusculas)
+{
+    const int ultima = contexto.Tiendas.reservado() ? contexto.Tiendas.limiteSuperior() - 1 : 0;
+    for (int indice = 1; indice <= ultima; ++indice) {
+        if (contexto.Tiendas[indice].Texto.compare(tienda, mayusculas) == 0)
+            return &contexto.Tiendas[indice].Texto;
+    }
+    return nullptr;
 }
 
 } // namespace
@@ -96,15 +123,21 @@ void DialogosDeLote::fechas()
     acepta();
 }
 
+/// The search finds clients that are not deleted.
 void DialogosDeLote::buscar()
 {
-    m_contexto.ClienteBuscado = m_respuestas.exigeNumero(Respuesta::Cliente);
+    const QString codigo = m_respuestas.exigeNumero(Respuesta::Cliente);
+    Recordset filas;
+    filas.Open(u"Select codigo from Clientes where codigo = %1 and borrar = false"_s.arg(codigo), m_contexto.ConexionTienda);
+    if (filas.Eof())
+        noOfrece(codigo);
+    m_contexto.ClienteBuscado = codigo;
 }
 
 void DialogosDeLote::historicoXClientes()
 {
     Filtros& filtros = m_contexto.filtros;
-    filtros.seccion = m_respuestas.numero(Respuesta::Seccion, -1);
+    filtros.seccion = elige(Respuesta::Seccion, PanelSecciones).codigo;
     filtros.todasLasSecciones = filtros.seccion == -1;
     const bool soloHayProductos = esDeAlimentacionYPerfume(m_contexto.TipoPrograma);
     const QString solo = soloHayProductos ? u"productos"_s : m_respuestas.texto(Respuesta::Solo);
@@ -119,7 +152,7 @@ void DialogosDeLote::historicoXClientes()
 void DialogosDeLote::historicoXEmpleados()
 {
     m_contexto.CajaCompleta = false;
-    m_contexto.filtros.empleado = m_respuestas.numero(Respuesta::Empleado, -1);
+    m_contexto.filtros.empleado = elige(Respuesta::Empleado, PanelEmpleados).codigo;
     m_contexto.filtros.totalizado = m_respuestas.tiene(Respuesta::Totalizado);
     m_contexto.FormatoTicket = m_respuestas.tiene(Respuesta::Ticket);
     ponCompleta();
@@ -147,8 +180,9 @@ void DialogosDeLote::eligeBajoMinimos()
 {
     Filtros& filtros = m_contexto.filtros;
     filtros.bajoMinimos = true;
-    filtros.proveedorBajoMinimos = m_respuestas.numero(Respuesta::Proveedor, -1);
-    filtros.titulo = u"LISTADO DE PRODUCTOS BAJO MINIMOX Proveedor = "_s + nombreDeProveedor(filtros.proveedorBajoMinimos);
+    const Eleccion proveedor = elige(Respuesta::Proveedor, PanelProveedores);
+    filtros.proveedorBajoMinimos = proveedor.codigo;
+    filtros.titulo = u"LISTADO DE PRODUCTOS BAJO MINIMOX Proveedor = "_s + proveedor.nombre;
 }
 
 /// One block of the page: the last one that the operator accepts clears the others.
@@ -157,13 +191,15 @@ void DialogosDeLote::eligeProductos()
     Filtros& filtros = m_contexto.filtros;
     filtros.bajoMinimos = false;
     if (m_respuestas.tiene(Respuesta::Proveedor)) {
-        filtros.proveedor = m_respuestas.numero(Respuesta::Proveedor, -1);
-        filtros.titulo = u"LISTADO DE PRODUCTOS X PROVEEDOR = "_s + nombreDeProveedor(filtros.proveedor);
+        const Eleccion proveedor = elige(Respuesta::Proveedor, PanelProveedores);
+        filtros.proveedor = proveedor.codigo;
+        filtros.titulo = u"LISTADO DE PRODUCTOS X PROVEEDOR = "_s + proveedor.nombre;
         return;
     }
     if (m_respuestas.tiene(Respuesta::Seccion)) {
-        filtros.seccion = m_respuestas.numero(Respuesta::Seccion, -1);
-        filtros.titulo = u"LISTADO DE PRODUCTOS X SECCIONES = "_s + nombreDeSeccion(filtros.seccion);
+        const Eleccion seccion = elige(Respuesta::Seccion, PanelSecciones);
+        filtros.seccion = seccion.codigo;
+        filtros.titulo = u"LISTADO DE PRODUCTOS X SECCIONES = "_s + seccion.nombre;
         return;
     }
     filtros.claseProducto = m_respuestas.texto(Respuesta::Clase);
@@ -172,8 +208,8 @@ void DialogosDeLote::eligeProductos()
 
 void DialogosDeLote::productosVendidos()
 {
-    m_contexto.filtros.empleado = m_respuestas.numero(Respuesta::Empleado, -1);
-    m_contexto.filtros.proveedor = m_respuestas.numero(Respuesta::Proveedor, -1);
+    m_contexto.filtros.empleado = elige(Respuesta::Empleado, PanelEmpleados).codigo;
+    m_contexto.filtros.proveedor = elige(Respuesta::Proveedor, PanelProveedores).codigo;
     acepta();
 }
 
@@ -193,8 +229,7 @@ void DialogosDeLote::clientesPerdidos()
 
 void DialogosDeLote::meses()
 {
-    m_contexto.CajaCompleta = false;
-    ponCompleta();
+    m_contexto.CajaCompleta = m_respuestas.tiene(Respuesta::Completa); // here the box stands in every shop
     m_contexto.filtros.mes = static_cast<qint16>(m_respuestas.numero(Respuesta::Mes, m_reloj.hoy().mes()));
     m_contexto.filtros.anio = static_cast<qint16>(m_respuestas.numero(Respuesta::Anio, m_reloj.hoy().anio()));
     acepta();
@@ -216,27 +251,25 @@ void DialogosDeLote::etiquetasClientes()
     etiquetas.desdeCumple = etiquetas.HastaCumple = m_reloj.hoy();
 }
 
-QString DialogosDeLote::nombreDe(const QString& sentencia, qint32 codigo, const QString& todos)
+void DialogosDeLote::noOfrece(const QString& codigo) const
 {
-    if (codigo == -1)
-        return todos;
+    throw PeticionImposible{u"%1 no ofrece el código %2."_s.arg(m_respuestas.control(), codigo)};
+}
+
+DialogosDeLote::Eleccion DialogosDeLote::elige(Respuesta respuesta, const Panel& panel)
+{
+    const qint32 codigo = m_respuestas.numero(respuesta, Todos);
+    if (codigo == Todos)
+        return {Todos, panel.todos.toString()};
     Recordset filas;
-    filas.Open(sentencia, m_contexto.ConexionTienda);
+    filas.Open(panel.sentencia.toString(), m_contexto.ConexionTienda);
     for (Recordset& fila : filas) {
-        if (fila.Fields(u"codigo").entero32() == codigo)
-            return fila.Fields(u"nombre").esNulo() ? QString{} : fila.Fields(u"nombre").texto();
+        const Valor suyo = fila.Fields(u"codigo");
+        const Valor nombre = fila.Fields(u"nombre");
+        if (!suyo.esNulo() && suyo.entero32() == codigo)
+            return {codigo, nombre.esNulo() ? QString{} : nombre.texto()};
     }
-    throw PeticionImposible{u"%1 no ofrece el código %2."_s.arg(m_respuestas.control()).arg(codigo)};
-}
-
-QString DialogosDeLote::nombreDeProveedor(qint32 codigo)
-{
-    return nombreDe(u"Select * from Proveedores where Borrar=false order by posicion"_s, codigo, u"Todos los Proveedores"_s);
-}
-
-QString DialogosDeLote::nombreDeSeccion(qint32 codigo)
-{
-    return nombreDe(u"Select * from Seccion where Borrar=false order by posicion"_s, codigo, u"Todas las Secciones"_s);
+    noOfrece(QString::number(codigo));
 }
 
 void eligeTienda(ContextoEjecucion& contexto, const QString& tienda)
@@ -249,14 +282,12 @@ void eligeTienda(ContextoEjecucion& contexto, const QString& tienda)
         contexto.TiendaSeleccionada = tienda;
         return;
     }
-    const int ultima = contexto.Tiendas.reservado() ? contexto.Tiendas.limiteSuperior() - 1 : 0;
-    for (int indice = 1; indice <= ultima; ++indice) {
-        if (contexto.Tiendas[indice].Texto.compare(tienda, Qt::CaseInsensitive) == 0) {
-            contexto.TiendaSeleccionada = contexto.Tiendas[indice].Texto;
-            return;
-        }
-    }
-    throw PeticionImposible{u"El servidor no tiene ninguna tienda \"%1\"."_s.arg(tienda)};
+    const QString* elegida = tiendaLlamada(contexto, tienda, Qt::CaseSensitive);
+    if (!elegida)
+        elegida = tiendaLlamada(contexto, tienda, Qt::CaseInsensitive);
+    if (!elegida)
+        throw PeticionImposible{u"El servidor no tiene ninguna tienda \"%1\"."_s.arg(tienda)};
+    contexto.TiendaSeleccionada = *elegida;
 }
 
 } // namespace kestrane::lote

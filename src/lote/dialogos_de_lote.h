@@ -8,6 +8,8 @@ namespace kestrane::lote {
 class DialogosDeLote final : public Dialogos
 {
 public:
+    struct Panel;
+
     /// All three outlive the object.
     DialogosDeLote(ContextoEjecucion& contexto, const PedidoInforme& pedido, const Reloj& reloj);
 
@@ -37,9 +39,16 @@ private:
     void reImprimir();
     void etiquetasClientes();
 
-    [[nodiscard]] QString nombreDe(const QString& sentencia, qint32 codigo, const QString& todos);
-    [[nodiscard]] QString nombreDeProveedor(qint32 codigo);
-    [[nodiscard]] QString nombreDeSeccion(qint32 codigo);
+    /// A press on a panel's button.
+    struct Eleccion
+    {
+        qint32 codigo = -1;
+        QString nombre;
+    };
+
+    /// The button that the option of `respuesta` names, that for all when it was not given. PeticionImposible when there is none.
+    [[nodiscard]] Eleccion elige(Respuesta respuesta, const Panel& panel);
+    [[noreturn]] void noOfrece(const QString& codigo) const;
 
     ContextoEjecucion& m_contexto;
     RespuestasDadas m_respuestas;

@@ -1,19 +1,12 @@
 #include "lote/escritor_informes.h"
 
-#include "lote/error_de_salida.h"
+#include "platform/runtime/error_de_salida.h"
 
 namespace kestrane::lote {
 
-namespace {
-
-constexpr qsizetype TrozoDeSalida = 64 * 1024;
-
-} // namespace
-
 void vuelca(QByteArray& bytes, QIODevice& destino)
 {
-    if (destino.write(bytes) != bytes.size())
-        throw ErrorDeSalida{destino.errorString()};
+    escribeTodo(destino, bytes);
     bytes.clear();
 }
 

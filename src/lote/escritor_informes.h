@@ -27,11 +27,13 @@ public:
     /// Writes the body of one report, its rows read from the staging tables in stored order. ErrorDeSalida when `cuerpo` does not
     /// take it.
     virtual void escribe(const InformeMostrado& informe, Conexion& listados, QIODevice& cuerpo) = 0;
-    // To be asked for when the last body is written.
     [[nodiscard]] virtual QByteArray principio() const = 0;
     [[nodiscard]] virtual QByteArray separador() const = 0;
     [[nodiscard]] virtual QByteArray final() const = 0;
 };
+
+/// Bytes that are held before they go out.
+inline constexpr qsizetype TrozoDeSalida = 64 * 1024;
 
 /// Writes all of `bytes` and empties it. ErrorDeSalida.
 void vuelca(QByteArray& bytes, QIODevice& destino);

@@ -1,7 +1,9 @@
 #include "lote/ficheros_salida.h"
 
-#include "lote/error_de_salida.h"
+#include "platform/runtime/error_de_salida.h"
+#include "platform/runtime/motivo_sistema.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QSet>
@@ -17,20 +19,14 @@ namespace {
     throw ErrorDeSalida{u"\"%1\": %2"_s.arg(nombre, motivo)};
 }
 
-void anade(QIODevice& salida, QByteArray bytes)
-{
-    vuelca(bytes, salida);
-}
-
 void copia(QTemporaryFile& origen, QIODevice& salida)
 {
-    constexpr qint64 Trozo = 64 * 1024;
     if (!origen.seek(0))
-        throw ErrorDeSalida{origen.errorString()};
+        throw ErrorDeSalida{motivoDe(origen)};
     while (!origen.atEnd())
-        anade(salida, origen.read(Trozo));
+        escribeTodo(salida, origen.read(TrozoDeSalida));
     if (origen.error() != QFileDevice::NoError)
-        throw ErrorDeSalida{origen.errorString()};
+        throw ErrorDeSalida{motivoDe(origen)};
 }
 
 /// The store's name as a part of a file's name.
@@ -63,24 +59,28 @@ std::unique_ptr<QSaveFile> abre(const QString& nombre)
 {
     auto fichero = std::make_unique<QSaveFile>(nombre);
     if (!fichero->open(QIODevice::WriteOnly))
-        noSePuedeEscribir(nombre, fichero->errorString());
+        noSePuedeEscribir(nombre, motivoDe(*fichero));
     return fichero;
 }
 
-} // namespace
-
-void escribeEn(QIODevice& salida, const EscritorInformes& escritor, std::span<const CuerpoInforme> informes)
+/// A pipe or a device: it stays what it is, and what is written goes through it.
+bool esEspecial(const QString& nombre)
 {
-    anade(salida, escritor.principio());
-    for (const CuerpoInforme& informe : informes) {
-        if (&informe != informes.data())
-            anade(salida, escritor.separador());
-        copia(*informe.fichero, salida);
-    }
-    anade(salida, escritor.final());
+    const QFileInfo fichero{nombre};
+    return fichero.exists() && !fichero.isFile() && !fichero.isDir();
 }
 
-void escribeFicheros(const QString& nombre, const EscritorInformes& escritor, std::span<const CuerpoInforme> informes)
+void escribePorEl(const QString& nombre, const EscritorInformes& escritor, std::span<const CuerpoInforme> informes)
+{
+    QFile fichero{nombre};
+    if (!fichero.open(QIODevice::WriteOnly))
+        noSePuedeEscribir(nombre, motivoDe(fichero));
+    escribeEn(fichero, escritor, informes);
+    if (!fichero.flush())
+        noSePuedeEscribir(nombre, motivoDe(fichero));
+}
+
+void escribeFicherosNuevos(const QString& nombre, const EscritorInformes& escritor, std::span<const CuerpoInforme> informes)
 {
     std::vector<std::unique_ptr<QSaveFile>> ficheros;
     QSet<QString> dados;
@@ -90,13 +90,34 @@ void escribeFicheros(const QString& nombre, const EscritorInformes& escritor, st
     }
     for (const auto& fichero : ficheros) {
         if (!fichero->commit())
-            noSePuedeEscribir(fichero->fileName(), fichero->errorString());
+            noSePuedeEscribir(fichero->fileName(), motivoDe(*fichero));
     }
+}
+
+} // namespace
+
+void escribeEn(QIODevice& salida, const EscritorInformes& escritor, std::span<const CuerpoInforme> informes)
+{
+    escribeTodo(salida, escritor.principio());
+    for (const CuerpoInforme& informe : informes) {
+        if (&informe != informes.data())
+            escribeTodo(salida, escritor.separador());
+        copia(*informe.fichero, salida);
+    }
+    escribeTodo(salida, escritor.final());
+}
+
+void escribeFicheros(const QString& nombre, const EscritorInformes& escritor, std::span<const CuerpoInforme> informes)
+{
+    esEspecial(nombre) ? escribePorEl(nombre, escritor, informes) : escribeFicherosNuevos(nombre, escritor, informes);
 }
 
 void compruebaQueSePuedeEscribir(const QString& nombre)
 {
-    abre(nombre)->cancelWriting();
+    if (!esEspecial(nombre))
+        return abre(nombre)->cancelWriting();
+    if (!QFileInfo{nombre}.isWritable())
+        noSePuedeEscribir(nombre, u"sin permiso"_s);
 }
 
 } // namespace kestrane::lote

@@ -4,17 +4,18 @@
 
 #include <span>
 
-/// Where the reports of a run end up. All or nothing: no destination holds half a report.
+/// Where the reports of a run end up. No file holds half a report.
 namespace kestrane::lote {
 
 /// All reports as one document. ErrorDeSalida.
 void escribeEn(QIODevice& salida, const EscritorInformes& escritor, std::span<const CuerpoInforme> informes);
 
-/// One report as the file `nombre`; several as one file each, with the store's name in front of the ending. Files appear under
-/// their names when all are written. ErrorDeSalida.
+/// One report as the file `nombre`; several as one file each, with the store's name in front of the ending. Files take their names
+/// one after the other when all are written: should the system refuse one of them then, those before it are there already. A pipe
+/// or a device takes all reports as one document and stays what it is. ErrorDeSalida.
 void escribeFicheros(const QString& nombre, const EscritorInformes& escritor, std::span<const CuerpoInforme> informes);
 
-/// ErrorDeSalida when the folder of `nombre` does not take the file; nothing is left there.
+/// ErrorDeSalida when the folder of `nombre` does not take the file; nothing is left there. A pipe or a device is not opened.
 void compruebaQueSePuedeEscribir(const QString& nombre);
 
 } // namespace kestrane::lote

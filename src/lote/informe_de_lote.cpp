@@ -12,8 +12,6 @@
 #include "platform/suite/preferencias_en_tabla.h"
 #include "run_context/principal.h"
 
-#include <QElapsedTimer>
-
 namespace kestrane::lote {
 
 using namespace Qt::StringLiterals;
@@ -34,15 +32,6 @@ std::unique_ptr<EscritorInformes> escritorDe(Formato formato)
     if (formato == Formato::Csv)
         return std::make_unique<InformesCsv>();
     return std::make_unique<InformesJson>();
-}
-
-std::unique_ptr<Progreso> progresoDe(const EntornoDeLote& entorno)
-{
-    if (!entorno.erroresEnTerminal)
-        return std::make_unique<ProgresoCallado>();
-    QElapsedTimer desde;
-    desde.start();
-    return std::make_unique<ProgresoDeLote>(entorno.errores, [desde] { return desde.elapsed(); });
 }
 
 /// One run, from the copy of the reports database to the files.
@@ -68,6 +57,7 @@ public:
         m_salida.termina();
         m_contexto.ConexionListados.Close();
         entrega();
+        m_copia.conserva();
         return m_salida.sinDatos() ? SalidaSinDatos : SalidaBien;
     }
 
@@ -87,37 +77,32 @@ private:
     void ejecuta()
     {
         MenuDeLote menu;
-        MensajesDeLote mensajes{m_entorno.errores};
         DialogosDeLote dialogos{m_contexto, pedido(), *m_reloj};
-        const std::unique_ptr<Progreso> progreso = progresoDe(m_entorno);
-        const Pantalla pantalla{menu, dialogos, *progreso, m_salida, mensajes};
-        try {
-            catalogue::Ejecutor{m_contexto, pantalla, *m_reloj}.ejecuta(*pedido().fila);
-        } catch (...) {
-            progreso->cerrar();
-            throw;
-        }
+        ProgresoDeLote progreso{m_entorno.avisos};
+        const Pantalla pantalla{menu, dialogos, progreso, m_salida, m_mensajes};
+        catalogue::Ejecutor{m_contexto, pantalla, *m_reloj}.ejecuta(*pedido().fila);
         for (const QString& opcion : dialogos.ignoradas())
-            mensajes.Informa(u"%1 no ofrece %2, que se ignora."_s.arg(pedido().fila->control, opcion), {});
+            m_mensajes.Informa(u"%1 no ofrece %2, que se ignora."_s.arg(pedido().fila->control, opcion), {});
     }
 
     void entrega() const
     {
-        if (pedido().salida.isEmpty())
-            escribeEn(m_entorno.salida, *m_escritor, m_salida.informes());
-        else
-            escribeFicheros(pedido().salida, *m_escritor, m_salida.informes());
+        m_entorno.avisos.empieza(u"Escribiendo el resultado"_s);
+        if (!pedido().salida.isEmpty())
+            return escribeFicheros(pedido().salida, *m_escritor, m_salida.informes());
+        m_entorno.avisos.empiezanLosResultados();
+        escribeEn(m_entorno.salida, *m_escritor, m_salida.informes());
     }
 
     const Opciones& m_opciones;
     const EntornoDeLote& m_entorno;
     CopiaListados m_copia;
     EntornoDatos m_datos;
-    QTemporaryDir m_temporal;
     ContextoEjecucion m_contexto{m_datos};
     std::unique_ptr<Reloj> m_reloj;
     std::unique_ptr<EscritorInformes> m_escritor;
-    SalidaDeLote m_salida{m_contexto, m_opciones.informe.fila->control, *m_escritor, m_temporal.path()};
+    MensajesDeLote m_mensajes{m_entorno.avisos};
+    SalidaDeLote m_salida{m_contexto, m_opciones.informe.fila->control, *m_escritor, m_mensajes, m_copia.carpeta()};
 };
 
 } // namespace
@@ -126,11 +111,12 @@ int ejecutaInforme(const Opciones& opciones, const database::OpcionesDatos& dato
 {
     const FilaCatalogo& fila = *opciones.informe.fila;
     if (!catalogue::estaDisponible(fila)) {
-        MensajesDeLote{entorno.errores}.Informa(AvisoNoDisponible.toString(), {});
+        entorno.avisos.di(AvisoNoDisponible.toString());
         return SalidaError;
     }
     if (!opciones.informe.salida.isEmpty())
         compruebaQueSePuedeEscribir(opciones.informe.salida);
+    entorno.avisos.empieza(u"Preparando el listado"_s);
     return Carrera{opciones, datos, entorno}.corre();
 }
 

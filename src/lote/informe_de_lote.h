@@ -1,5 +1,6 @@
 #pragma once
 
+#include "lote/avisos.h"
 #include "lote/opciones.h"
 #include "platform/database/entorno_datos.h"
 
@@ -12,12 +13,12 @@ struct EntornoDeLote
 {
     QString carpetaPrograma;
     QIODevice& salida;
-    QIODevice& errores;
-    bool erroresEnTerminal = false;
+    Avisos& avisos;
 };
 
 /// Runs the report of `opciones` on the databases that `datos` leads to and writes it. Returns the exit status, 0 or 3 without
-/// data. ErrorEjecucion, ErrorDeSalida and PeticionImposible when it cannot; nothing is written then.
+/// data, which the operator is told of each report. ErrorEjecucion, ErrorDeSalida and PeticionImposible when it cannot; but for an
+/// output that breaks off nothing is written then.
 [[nodiscard]] int ejecutaInforme(const Opciones& opciones, const database::OpcionesDatos& datos, const EntornoDeLote& entorno);
 
 /// One line for each report and chart: control, caption, "informe" or "grafico", and what is not available yet.

@@ -1,5 +1,6 @@
 #include "lote/informes_csv.h"
 
+#include "instalacion/esquema.h"
 #include "platform/database/recordset.h"
 #include "platform/runtime/conversiones.h"
 
@@ -33,6 +34,12 @@ void anadeFila(QByteArray& linea, Recordset& fila, const QStringList& columnas, 
 
 } // namespace
 
+InformesCsv::InformesCsv()
+{
+    for (const instalacion::ColumnaEsquema& columna : instalacion::baseListados().tabla(u"informes")->columnas)
+        m_columnas += QString{columna.nombre}.toLower();
+}
+
 void InformesCsv::escribe(const InformeMostrado& informe, Conexion& listados, QIODevice& cuerpo)
 {
     escribeFilas(informe.tienda, u"informes"_s, listados, cuerpo);
@@ -43,10 +50,6 @@ void InformesCsv::escribeFilas(const QString& tienda, const QString& tabla, Cone
 {
     Recordset filas;
     filas.Open(u"select * from "_s + tabla, listados);
-    if (m_columnas.isEmpty()) {
-        for (const jet::ColumnaResultado& columna : filas.columnas())
-            m_columnas += columna.nombre.toLower();
-    }
     QByteArray linea;
     for (Recordset& fila : filas) {
         anadeTexto(linea, tienda);

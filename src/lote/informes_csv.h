@@ -12,6 +12,7 @@ namespace kestrane::lote {
 class InformesCsv final : public EscritorInformes
 {
 public:
+    InformesCsv();
     void escribe(const InformeMostrado& informe, Conexion& listados, QIODevice& cuerpo) override;
     [[nodiscard]] QByteArray principio() const override;
     [[nodiscard]] QByteArray separador() const override { return {}; }

@@ -1,18 +1,27 @@
 #include "lote/programa.h"
+#include "platform/runtime/salida_estandar.h"
 #include "platform/runtime/terminal.h"
 
 #include <QCoreApplication>
-#include <QFile>
 
+namespace {
+
+kestrane::lote::DestinoErrores destinoErrores()
+{
+    using kestrane::lote::DestinoErrores;
+    if (!kestrane::esTerminal(stderr))
+        return DestinoErrores::Fichero;
+    return kestrane::esTerminal(stdout) ? DestinoErrores::TerminalConResultados : DestinoErrores::Terminal;
+}
+
+} // namespace
+
+// The application opens files of its own, which would take the place of a closed stream: the streams come first.
 int main(int argc, char** argv)
 {
-    const QCoreApplication aplicacion{argc, argv};
-    QFile salida;
-    QFile errores;
-    if (!salida.open(stdout, QIODevice::WriteOnly) || !errores.open(stderr, QIODevice::WriteOnly | QIODevice::Unbuffered))
-        return kestrane::lote::SalidaError;
-    const auto destino =
-        kestrane::esTerminal(stderr) ? kestrane::lote::DestinoErrores::Terminal : kestrane::lote::DestinoErrores::Fichero;
-    return kestrane::lote::ejecutaPrograma(QCoreApplication::arguments(), QCoreApplication::applicationDirPath(), salida, errores,
-                                           destino);
+    return kestrane::conSalidaEstandar(u"listados-lote", [&](QIODevice& salida, QIODevice& errores) {
+        const QCoreApplication aplicacion{argc, argv};
+        return kestrane::lote::ejecutaPrograma(QCoreApplication::arguments(), QCoreApplication::applicationDirPath(), salida,
+                                               errores, destinoErrores());
+    });
 }

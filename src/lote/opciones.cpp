@@ -1,6 +1,8 @@
 #include "lote/opciones.h"
 
 #include "lote/ayuda.h"
+#include "platform/runtime/lector_dia.h"
+#include "platform/runtime/linea_de_ordenes.h"
 
 #include <QCommandLineParser>
 #include <QDir>
@@ -27,20 +29,8 @@ void declara(QCommandLineParser& lector)
     const auto conValor = [](const QString& nombre) { return QCommandLineOption{nombre, {}, u"valor"_s}; };
     lector.addOptions({conValor(Sql), conValor(SqlFichero), conValor(Base), conValor(Datos), conValor(Dsn), conValor(Regional),
                        conValor(Hoy), QCommandLineOption{Lista}, QCommandLineOption{Escribir},
-                       QCommandLineOption{{u"h"_s, Ayuda}}});
+                       QCommandLineOption{{u"h"_s, Ayuda, u"help"_s}}});
     lector.addOptions(opcionesDeInforme());
-}
-
-/// Which option lacks its value (always the last word) or has one that it does not take.
-QString faltaOSobraValor(const QStringList& argumentos)
-{
-    if (argumentos.constLast().startsWith(u'-') && !argumentos.constLast().contains(u'='))
-        return u"A %1 le falta su valor."_s.arg(argumentos.constLast());
-    for (const QString& argumento : argumentos) {
-        if (argumento.startsWith(u'-') && argumento.contains(u'='))
-            return u"%1 no lleva valor."_s.arg(argumento.section(u'=', 0, 0));
-    }
-    return u"Una opción lleva un valor que no admite."_s;
 }
 
 std::optional<Opciones::Trabajo> trabajoDe(const QCommandLineParser& lector)
@@ -79,15 +69,6 @@ std::optional<QString> opcionDeOtroTrabajo(Opciones::Trabajo trabajo, const QCom
     if (trabajo == Opciones::Trabajo::Informe)
         return {};
     return lector.isSet(Hoy) ? u"--"_s + Hoy : primeraOpcionDeInforme(lector);
-}
-
-std::optional<ErrorDeUso> errorDeLectura(const QCommandLineParser& lector, const QStringList& argumentos)
-{
-    if (!lector.unknownOptionNames().isEmpty())
-        return ErrorDeUso{u"Opción desconocida: --%1."_s.arg(lector.unknownOptionNames().constFirst())};
-    if (!lector.errorText().isEmpty())
-        return ErrorDeUso{faltaOSobraValor(argumentos)};
-    return {};
 }
 
 std::optional<ErrorDeUso> errorDeTrabajo(Opciones::Trabajo trabajo, const QCommandLineParser& lector)
@@ -144,28 +125,28 @@ Resultado<Opciones, ErrorDeUso> leeOpciones(const QStringList& argumentos, const
 {
     QCommandLineParser lector;
     declara(lector);
-    const bool entendida = lector.parse(argumentos);
+    const QString error = leeLinea(lector, argumentos, opcionesQueAdmitenVacio());
     Opciones opciones;
-    if (entendida && lector.isSet(Ayuda)) {
+    if (error.isEmpty() && lector.isSet(Ayuda)) {
         opciones.texto = QStringView{TextoDeAyuda}.toString();
         return opciones;
     }
-    if (auto error = errorDeLectura(lector, argumentos))
-        return *std::move(error);
+    if (!error.isEmpty())
+        return ErrorDeUso{error};
     const auto trabajo = trabajoDe(lector);
     if (!trabajo)
         return ErrorDeUso{u"Indique un CONTROL, o bien --lista, --sql TEXTO o --sql-fichero FICHERO."_s};
     opciones.trabajo = *trabajo;
-    if (auto error = errorDeTrabajo(*trabajo, lector))
-        return *std::move(error);
-    if (auto error = leeComunes(lector, carpetaPrograma, opciones))
-        return *std::move(error);
+    if (auto motivo = errorDeTrabajo(*trabajo, lector))
+        return *std::move(motivo);
+    if (auto motivo = leeComunes(lector, carpetaPrograma, opciones))
+        return *std::move(motivo);
     if (esDeSql(*trabajo))
         leeSql(lector, opciones);
     if (*trabajo != Opciones::Trabajo::Informe)
         return opciones;
-    if (auto error = leeInforme(lector, opciones))
-        return *std::move(error);
+    if (auto motivo = leeInforme(lector, opciones))
+        return *std::move(motivo);
     return opciones;
 }
 

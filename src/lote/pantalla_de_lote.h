@@ -1,10 +1,7 @@
 #pragma once
 
+#include "lote/avisos.h"
 #include "pipeline/pantalla.h"
-
-#include <QIODevice>
-
-#include <functional>
 
 /// What remains of the screen when there is none.
 namespace kestrane::lote {
@@ -20,46 +17,29 @@ public:
     void OcultaInfo() override {}
 };
 
-/// Message boxes are lines on the standard error.
+/// Message boxes are sentences on the standard error.
 class MensajesDeLote final : public Mensajes
 {
 public:
-    explicit MensajesDeLote(QIODevice& errores) : m_errores{errores} {}
+    explicit MensajesDeLote(Avisos& avisos) : m_avisos{avisos} {}
     void Informa(const QString& texto, const QString& titulo) override;
     void Critico(const QString& texto, const QString& titulo) override;
 
 private:
-    QIODevice& m_errores;
+    Avisos& m_avisos;
 };
 
-/// Says that a report takes long: from its second second on, the steps counted, on a line that vanishes at the end.
+/// The progress window is the line that counts steps.
 class ProgresoDeLote final : public Progreso
 {
 public:
-    /// Milliseconds since any moment in the past.
-    using Cronometro = std::function<qint64()>;
-
-    /// `errores` is a terminal.
-    ProgresoDeLote(QIODevice& errores, Cronometro cronometro);
+    explicit ProgresoDeLote(Avisos& avisos) : m_avisos{avisos} {}
     void Muestra() override;
-    void IncrementaBarra() override;
-    void cerrar() override;
+    void IncrementaBarra() override { m_avisos.avanza(); }
+    void cerrar() override { m_avisos.borra(); }
 
 private:
-    QIODevice& m_errores;
-    Cronometro m_cronometro;
-    qint64 m_siguiente = 0; ///< when the line is written next
-    qint64 m_pasos = 0;
-    bool m_escrito = false;
-};
-
-/// Where errors do not go to a terminal there is nobody to tell.
-class ProgresoCallado final : public Progreso
-{
-public:
-    void Muestra() override {}
-    void IncrementaBarra() override {}
-    void cerrar() override {}
+    Avisos& m_avisos;
 };
 
 } // namespace kestrane::lote

@@ -1,6 +1,7 @@
 #include "lote/pedido_informe.h"
 
 #include "pipeline/catalogue/catalogo.h"
+#include "platform/runtime/lector_dia.h"
 
 #include <QStringList>
 
@@ -13,6 +14,8 @@ using catalogue::Clase;
 
 namespace {
 
+constexpr qint32 SinMaximo = std::numeric_limits<qint32>::max();
+
 enum class Tipo { Dia, Numero, Texto, SinValor };
 
 struct OpcionRespuesta
@@ -22,18 +25,20 @@ struct OpcionRespuesta
     Tipo tipo = Tipo::Texto;
     QStringView valores{}; ///< what a text may be, separated by "|"; empty for any
     qint32 minimo = std::numeric_limits<qint32>::min();
-    qint32 maximo = std::numeric_limits<qint32>::max();
+    qint32 maximo = SinMaximo;
 };
+
+constexpr qint32 Todos = -1; // the code of "all" in the panels
 
 constexpr OpcionRespuesta Respuestas[] = {
     {Respuesta::Desde, u"desde", Tipo::Dia},
     {Respuesta::Hasta, u"hasta", Tipo::Dia},
     {Respuesta::Completa, u"completa", Tipo::SinValor},
     {Respuesta::Ticket, u"ticket", Tipo::SinValor},
-    {Respuesta::Cliente, u"cliente", Tipo::Numero},
-    {Respuesta::Empleado, u"empleado", Tipo::Numero},
-    {Respuesta::Proveedor, u"proveedor", Tipo::Numero},
-    {Respuesta::Seccion, u"seccion", Tipo::Numero},
+    {Respuesta::Cliente, u"cliente", Tipo::Numero, {}, 0},
+    {Respuesta::Empleado, u"empleado", Tipo::Numero, {}, Todos},
+    {Respuesta::Proveedor, u"proveedor", Tipo::Numero, {}, Todos},
+    {Respuesta::Seccion, u"seccion", Tipo::Numero, {}, Todos},
     {Respuesta::Solo, u"solo", Tipo::Texto, u"productos|servicios"},
     {Respuesta::Clase, u"clase", Tipo::Texto, u"V|CI|A"},
     {Respuesta::BajoMinimos, u"bajo-minimos", Tipo::SinValor},
@@ -42,7 +47,7 @@ constexpr OpcionRespuesta Respuestas[] = {
     {Respuesta::Totalizado, u"totalizado", Tipo::SinValor},
     {Respuesta::Mes, u"mes", Tipo::Numero, {}, 1, 12},
     {Respuesta::Anio, u"anio", Tipo::Numero, {}, 100, 9999},
-    {Respuesta::Factura, u"factura", Tipo::Numero},
+    {Respuesta::Factura, u"factura", Tipo::Numero, {}, 0},
 };
 
 const QString Tienda = u"tienda"_s;
@@ -57,6 +62,8 @@ Resultado<Valor, ErrorDeUso> leeNumero(const OpcionRespuesta& opcion, const QStr
     const qint32 numero = texto.toInt(&bien);
     if (!bien)
         return ErrorDeUso{u"--%1 lleva un número entero, no \"%2\"."_s.arg(opcion.nombre, texto)};
+    if (numero < opcion.minimo && opcion.maximo == SinMaximo)
+        return ErrorDeUso{u"--%1 lleva un número desde %2, no \"%3\"."_s.arg(opcion.nombre).arg(opcion.minimo).arg(texto)};
     if (numero < opcion.minimo || numero > opcion.maximo)
         return ErrorDeUso{
             u"--%1 va de %2 a %3, no es \"%4\"."_s.arg(opcion.nombre).arg(opcion.minimo).arg(opcion.maximo).arg(texto)};
@@ -106,8 +113,9 @@ std::optional<ErrorDeUso> leeRespuestas(const QCommandLineParser& lector, Pedido
     return {};
 }
 
-std::optional<ErrorDeUso> leeFormato(const QString& formato, PedidoInforme& pedido)
+std::optional<ErrorDeUso> leeFormato(const QString& escrito, PedidoInforme& pedido)
 {
+    const QString formato = escrito.toLower();
     if (formato.isEmpty() || formato == u"json")
         return {};
     if (formato == u"csv") {
@@ -118,7 +126,7 @@ std::optional<ErrorDeUso> leeFormato(const QString& formato, PedidoInforme& pedi
         if (formato == futuro)
             return ErrorDeUso{u"El formato %1 todavía no está disponible; use json o csv."_s.arg(formato)};
     }
-    return ErrorDeUso{u"--formato admite json o csv, no \"%1\"."_s.arg(formato)};
+    return ErrorDeUso{u"--formato admite json o csv, no \"%1\"."_s.arg(escrito)};
 }
 
 std::optional<ErrorDeUso> eligeFila(const QString& control, PedidoInforme& pedido)
@@ -155,6 +163,11 @@ QList<QCommandLineOption> opcionesDeInforme()
     return opciones;
 }
 
+QStringList opcionesQueAdmitenVacio()
+{
+    return {Tienda};
+}
+
 std::optional<QString> primeraOpcionDeInforme(const QCommandLineParser& lector)
 {
     for (const QCommandLineOption& opcion : opcionesDeInforme()) {
@@ -178,20 +191,6 @@ Resultado<PedidoInforme, ErrorDeUso> leePedido(const QString& control, const QCo
     pedido.salida = lector.value(OpcionSalida);
     pedido.carpetaListados = lector.value(CarpetaListados);
     return pedido;
-}
-
-std::optional<Fecha> leeDia(QStringView texto)
-{
-    const auto partes = texto.split(u'-');
-    if (texto.size() != 10 || partes.size() != 3 || partes[0].size() != 4 || partes[1].size() != 2)
-        return {};
-    bool bien[3] = {};
-    const int anio = partes[0].toInt(&bien[0]);
-    const int mes = partes[1].toInt(&bien[1]);
-    const int dia = partes[2].toInt(&bien[2]);
-    if (!bien[0] || !bien[1] || !bien[2])
-        return {};
-    return Fecha::deCalendario(anio, mes, dia);
 }
 
 } // namespace kestrane::lote

@@ -58,12 +58,11 @@ struct PedidoInforme
 
 /// The options that only a report takes.
 [[nodiscard]] QList<QCommandLineOption> opcionesDeInforme();
+/// Those of them for which the empty text is a value.
+[[nodiscard]] QStringList opcionesQueAdmitenVacio();
 /// The first of them that was given, as "--desde".
 [[nodiscard]] std::optional<QString> primeraOpcionDeInforme(const QCommandLineParser& lector);
 /// Reads them for the button `control`. An unknown button, one that is no report, and a value that makes no sense are errors.
 [[nodiscard]] Resultado<PedidoInforme, ErrorDeUso> leePedido(const QString& control, const QCommandLineParser& lector);
-
-/// A day "2024-03-15"; nothing for any other text.
-[[nodiscard]] std::optional<Fecha> leeDia(QStringView texto);
 
 } // namespace kestrane::lote

@@ -1,12 +1,15 @@
 #include "lote/programa.h"
 
 #include "lote/consola_sql.h"
-#include "lote/escritor_informes.h"
 #include "lote/informe_de_lote.h"
+#include "lote/latido.h"
 #include "lote/opciones.h"
 #include "lote/peticion_imposible.h"
 #include "platform/database/entorno_datos.h"
+#include "platform/runtime/error_de_salida.h"
+#include "platform/runtime/motivo_sistema.h"
 
+#include <QElapsedTimer>
 #include <QFile>
 
 namespace kestrane::lote {
@@ -15,9 +18,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void di(QIODevice& errores, const QString& frase)
+constexpr std::chrono::milliseconds CadaLatido{200};
+
+Avisos::Cronometro cronometro()
 {
-    errores.write("listados-lote: " + frase.toUtf8() + '\n');
+    QElapsedTimer desde;
+    desde.start();
+    return [desde] { return desde.elapsed(); };
 }
 
 QString fraseDe(const ErrorEjecucion& error)
@@ -25,36 +32,38 @@ QString fraseDe(const ErrorEjecucion& error)
     return u"error %1: %2"_s.arg(error.numero()).arg(error.descripcion());
 }
 
-bool ejecutaFichero(ConsolaSql& consola, const QString& nombre, QIODevice& errores)
+bool ejecutaFichero(ConsolaSql& consola, const QString& nombre, Avisos& avisos)
 {
     QFile fichero{nombre};
-    if (!fichero.open(QIODevice::ReadOnly)) {
-        di(errores, u"no se puede leer \"%1\" (%2)."_s.arg(nombre, fichero.errorString()));
+    const bool abierto = fichero.open(QIODevice::ReadOnly);
+    const int fallidas = abierto ? consola.ejecutaLineas(fichero) : 0;
+    if (!abierto || fichero.error() != QFileDevice::NoError) {
+        avisos.di(u"no se puede leer \"%1\" (%2)."_s.arg(nombre, motivoDe(fichero)));
         return false;
     }
-    const int fallidas = consola.ejecutaLineas(fichero);
     if (fallidas > 0)
-        di(errores, u"%1 sentencias han terminado en error; sus líneas lo dicen."_s.arg(fallidas));
+        avisos.di(u"%1 sentencias han terminado en error; sus líneas lo dicen."_s.arg(fallidas));
     return fallidas == 0;
 }
 
-bool ejecutaSentencia(ConsolaSql& consola, const QString& sentencia, QIODevice& errores)
+bool ejecutaSentencia(ConsolaSql& consola, const QString& sentencia, Avisos& avisos)
 {
     const std::optional<ErrorEjecucion> error = consola.ejecuta(sentencia);
     if (error)
-        di(errores, fraseDe(*error));
+        avisos.di(fraseDe(*error));
     return !error;
 }
 
 bool ejecutaSql(const Opciones& opciones, EntornoDatos& datos, const EntornoDeLote& entorno)
 {
-    QIODevice& errores = entorno.errores;
+    Avisos& avisos = entorno.avisos;
+    avisos.empieza(u"Ejecutando sentencias"_s);
     Conexion conexion{datos};
     conexion.Open(u"dsn="_s + opciones.dsn);
     ConsolaSql consola{conexion, opciones.escribir ? ConsolaSql::Permiso::Escritura : ConsolaSql::Permiso::SoloLectura,
-                       entorno.salida};
-    const bool bien = opciones.trabajo == Opciones::Trabajo::Sql ? ejecutaSentencia(consola, opciones.texto, errores)
-                                                                 : ejecutaFichero(consola, opciones.texto, errores);
+                       entorno.salida, avisos};
+    const bool bien = opciones.trabajo == Opciones::Trabajo::Sql ? ejecutaSentencia(consola, opciones.texto, avisos)
+                                                                 : ejecutaFichero(consola, opciones.texto, avisos);
     conexion.Close();
     return bien;
 }
@@ -67,9 +76,9 @@ database::OpcionesDatos datosDe(const Opciones& opciones)
     return datos;
 }
 
-int escribe(QIODevice& salida, QByteArray texto)
+int escribe(QIODevice& salida, const QByteArray& texto)
 {
-    vuelca(texto, salida);
+    escribeTodo(salida, texto);
     return SalidaBien;
 }
 
@@ -90,27 +99,36 @@ int trabaja(const Opciones& opciones, const EntornoDeLote& entorno)
     return ejecutaSql(opciones, datos, entorno) ? SalidaBien : SalidaError;
 }
 
+int trabajaYDi(const Opciones& opciones, const EntornoDeLote& entorno)
+{
+    try {
+        return trabaja(opciones, entorno);
+    } catch (const PeticionImposible& error) {
+        entorno.avisos.di(error.mensaje());
+        return SalidaUso;
+    } catch (const ErrorEjecucion& error) {
+        entorno.avisos.di(fraseDe(error));
+    } catch (const ErrorDeSalida& error) {
+        entorno.avisos.di(u"no se puede escribir el resultado (%1)."_s.arg(error.motivo()));
+    }
+    return SalidaError;
+}
+
 } // namespace
 
 int ejecutaPrograma(const QStringList& argumentos, const QString& carpetaPrograma, QIODevice& salida, QIODevice& errores,
                     DestinoErrores destino)
 {
+    Avisos avisos{errores, destino, cronometro()};
     const auto opciones = leeOpciones(argumentos, carpetaPrograma);
     if (!opciones) {
-        di(errores, opciones.error().mensaje + u" Con --ayuda se ven las opciones."_s);
+        avisos.di(opciones.error().mensaje + u" Con --ayuda se ven las opciones."_s);
         return SalidaUso;
     }
-    try {
-        return trabaja(opciones.valor(), {carpetaPrograma, salida, errores, destino == DestinoErrores::Terminal});
-    } catch (const PeticionImposible& error) {
-        di(errores, error.mensaje());
-        return SalidaUso;
-    } catch (const ErrorEjecucion& error) {
-        di(errores, fraseDe(error));
-    } catch (const ErrorDeSalida& error) {
-        di(errores, u"no se puede escribir el resultado (%1)."_s.arg(QString::fromUtf8(error.what())));
-    }
-    return SalidaError;
+    std::optional<Latido> latido;
+    if (destino != DestinoErrores::Fichero)
+        latido.emplace(CadaLatido, [&avisos] { avisos.late(); });
+    return trabajaYDi(opciones.valor(), {carpetaPrograma, salida, avisos});
 }
 
 } // namespace kestrane::lote

@@ -1,14 +1,12 @@
 #pragma once
 
+#include "lote/avisos.h"
 #include "lote/estado_de_salida.h"
 
 #include <QIODevice>
 #include <QStringList>
 
 namespace kestrane::lote {
-
-/// Whether somebody watches the errors as they come.
-enum class DestinoErrores { Fichero, Terminal };
 
 /// `listados-lote`: reads the command line, works, writes results on `salida` and one Spanish sentence per failure on `errores`.
 /// Returns the exit status.

@@ -1,8 +1,9 @@
 #include "lote/salida_de_lote.h"
 
-#include "lote/error_de_salida.h"
 #include "pipeline/hay_datos.h"
+#include "platform/runtime/error_de_salida.h"
 #include "platform/runtime/error_ejecucion.h"
+#include "platform/runtime/motivo_sistema.h"
 
 #include <QDir>
 
@@ -12,10 +13,12 @@ namespace kestrane::lote {
 
 using namespace Qt::StringLiterals;
 
-SalidaDeLote::SalidaDeLote(ContextoEjecucion& contexto, QStringView control, EscritorInformes& escritor, QString carpeta)
+SalidaDeLote::SalidaDeLote(ContextoEjecucion& contexto, QStringView control, EscritorInformes& escritor, Mensajes& mensajes,
+                           QString carpeta)
     : m_contexto{contexto}
     , m_control{control.toString()}
     , m_escritor{escritor}
+    , m_mensajes{mensajes}
     , m_carpeta{std::move(carpeta)}
 {
 }
@@ -24,6 +27,8 @@ void SalidaDeLote::ImprimirReport(const QString& nombre)
 {
     escribe(nombre);
     m_impresora.clear();
+    if (!m_informes.back().datos)
+        m_mensajes.Informa(u"No hay datos para ser mostrados."_s, u"Listados"_s);
 }
 
 void SalidaDeLote::MostrarGrafico(const QString&, const DatosDeGrafico&)
@@ -48,7 +53,7 @@ void SalidaDeLote::escribe(const QString& layout)
                           .datos = HayDatos(m_contexto.ConexionListados),
                           .fichero = std::make_unique<QTemporaryFile>(QDir{m_carpeta}.filePath(u"informe"_s))};
     if (!informe.fichero->open())
-        throw ErrorDeSalida{informe.fichero->errorString()};
+        throw ErrorDeSalida{motivoDe(*informe.fichero)};
     m_escritor.escribe(
         {.control = m_control, .tienda = informe.tienda, .layout = layout, .impresora = m_impresora, .datos = informe.datos},
         m_contexto.ConexionListados, *informe.fichero);

@@ -24,8 +24,8 @@ struct CuerpoInforme
 class SalidaDeLote final : public Salida
 {
 public:
-    /// All outlive the object; `carpeta` takes the temporary files.
-    SalidaDeLote(ContextoEjecucion& contexto, QStringView control, EscritorInformes& escritor, QString carpeta);
+    /// All outlive the object; `carpeta` takes the temporary files, `mensajes` hears of a report that has nothing to show.
+    SalidaDeLote(ContextoEjecucion& contexto, QStringView control, EscritorInformes& escritor, Mensajes& mensajes, QString carpeta);
 
     void DrenaEventos() override {}
     void DarImpresora(const QString& nombre) override { m_impresora = nombre; }
@@ -45,6 +45,7 @@ private:
     ContextoEjecucion& m_contexto;
     QString m_control;
     EscritorInformes& m_escritor;
+    Mensajes& m_mensajes;
     QString m_carpeta;
     QString m_impresora;
     std::vector<CuerpoInforme> m_informes;

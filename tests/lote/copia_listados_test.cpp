@@ -59,6 +59,23 @@ protected:
 
     [[nodiscard]] QString otra(const QString& nombre) const { return QDir{m_tienda.carpeta()}.filePath(nombre); }
 
+    /// A copy of an earlier run with a row in it.
+    void conservaUnaVieja(const QString& carpeta) const
+    {
+        const CopiaListados copia{en(m_tienda.carpeta()), carpeta};
+        EntornoDatos entorno{copia.opciones()};
+        Conexion conexion{entorno};
+        conexion.Open(u"dsn=ListKestrane"_s);
+        conexion.Execute(u"insert into informes (texto1) values ('de antes')"_s);
+        conexion.Close();
+        copia.conserva();
+    }
+
+    static QString contenido(const QString& carpeta)
+    {
+        return QDir{carpeta}.entryList(QDir::AllEntries | QDir::NoDotAndDotDot).join(u' ');
+    }
+
     TiendaDePrueba m_tienda;
 };
 
@@ -82,7 +99,20 @@ TEST_F(CopiaListadosTest, AFolderThatCannotBeMadeIsRefused)
 {
     QFile fichero{otra(u"fichero"_s)};
     ASSERT_TRUE(fichero.open(QIODevice::WriteOnly));
-    EXPECT_NE(rechazo(en(m_tienda.carpeta()), otra(u"fichero/dentro"_s)).find("fichero/dentro"), std::string::npos);
+    const std::string frase = rechazo(en(m_tienda.carpeta()), otra(u"fichero/dentro"_s));
+    EXPECT_NE(frase.find("fichero/dentro\" (una parte de la ruta no es una carpeta)"), std::string::npos) << frase;
+}
+
+TEST_F(CopiaListadosTest, TheFolderOfAnotherShopIsRefusedAndItsReportsDatabaseStays)
+{
+    const TiendaDePrueba ajena;
+    QFile suya{ajena.carpeta() + u"/ListKestrane.db"_s};
+    const qint64 tamano = suya.size();
+    EXPECT_GT(tamano, 0);
+    const std::string frase = rechazo(en(m_tienda.carpeta()), ajena.carpeta());
+    EXPECT_NE(frase.find("está la base de datos de una tienda"), std::string::npos) << frase;
+    EXPECT_EQ(suya.size(), tamano);
+    EXPECT_EQ(contenido(ajena.carpeta()), u"ListKestrane.db TiendaKestrane.db"_s);
 }
 
 TEST_F(CopiaListadosTest, TheStagingTablesAreEmptyAndTheKeyIsCopied)
@@ -115,34 +145,57 @@ TEST_F(CopiaListadosTest, TheShopIsTheOriginals)
     EXPECT_EQ(filas.RecordCount(), 1);
 }
 
-TEST_F(CopiaListadosTest, AFolderOfItsOwnGoesWithItAndANamedOneStays)
+TEST_F(CopiaListadosTest, ItGoesWithItsFolderUnlessItIsKept)
 {
-    QString propia;
+    QString suya;
     {
         const CopiaListados copia{en(m_tienda.carpeta()), {}};
-        propia = copia.carpeta();
-        EXPECT_TRUE(QFile::exists(propia + u"/ListKestrane.db"_s));
+        suya = copia.carpeta();
+        EXPECT_TRUE(QFile::exists(suya + u"/ListKestrane.db"_s));
+        copia.conserva();
     }
-    EXPECT_FALSE(QDir{propia}.exists());
+    EXPECT_FALSE(QDir{suya}.exists());
     const QString carpeta = otra(u"copia/dentro"_s);
     {
         const CopiaListados copia{en(m_tienda.carpeta()), carpeta};
+        EXPECT_FALSE(QFile::exists(carpeta + u"/ListKestrane.db"_s));
+        copia.conserva();
     }
+    EXPECT_EQ(contenido(carpeta), u"ListKestrane.db"_s);
     EXPECT_EQ(columna(en(carpeta), u"select list1 from listadostemporal"_s), u"7"_s);
 }
 
-TEST_F(CopiaListadosTest, ACopyThatIsThereIsReplaced)
+TEST_F(CopiaListadosTest, AnOlderOneStaysUntilItIsKeptAndThenGoesWithItsLogs)
 {
     const QString carpeta = otra(u"copia"_s);
-    {
-        const CopiaListados copia{en(m_tienda.carpeta()), carpeta};
-        EntornoDatos entorno{copia.opciones()};
-        Conexion conexion{entorno};
-        conexion.Open(u"dsn=ListKestrane"_s);
-        conexion.Execute(u"insert into informes (texto1) values ('de antes')"_s);
-    }
+    conservaUnaVieja(carpeta);
     const CopiaListados copia{en(m_tienda.carpeta()), carpeta};
-    EXPECT_EQ(columna(copia.opciones(), u"select texto1 from informes"_s), u""_s);
+    EXPECT_EQ(columna(en(carpeta), u"select texto1 from informes"_s), u"de antes"_s);
+    QFile restos{carpeta + u"/ListKestrane.db-wal"_s};
+    ASSERT_TRUE(restos.open(QIODevice::WriteOnly));
+    restos.close();
+    copia.conserva();
+    EXPECT_FALSE(restos.exists());
+    EXPECT_EQ(columna(en(carpeta), u"select texto1 from informes"_s), u""_s);
+}
+
+TEST_F(CopiaListadosTest, ARunThatFailsLeavesTheOlderOneAndNothingElse)
+{
+    const QString carpeta = otra(u"copia"_s);
+    conservaUnaVieja(carpeta);
+    EXPECT_NE(rechazo(en(otra(u"nada"_s)), carpeta), "");
+    m_tienda.quitaTablaListados(u"listadostemporal"_s);
+    EXPECT_NE(rechazo(en(m_tienda.carpeta()), carpeta), "");
+    EXPECT_EQ(contenido(carpeta), u"ListKestrane.db"_s);
+    EXPECT_EQ(columna(en(carpeta), u"select texto1 from informes"_s), u"de antes"_s);
+}
+
+TEST_F(CopiaListadosTest, AFolderThatDoesNotTakeItIsToldWhenItIsKept)
+{
+    const QString carpeta = otra(u"copia"_s);
+    const CopiaListados copia{en(m_tienda.carpeta()), carpeta};
+    ASSERT_TRUE(QDir{}.mkpath(carpeta + u"/ListKestrane.db/dentro"_s));
+    EXPECT_THROW(copia.conserva(), ErrorEjecucion);
 }
 
 } // namespace

@@ -19,6 +19,15 @@ class DialogosDeLoteTest : public testing::Test
 protected:
     DialogosDeLoteTest()
     {
+        m_tienda.ejecuta({u"insert into clientes (codigo, nombre) values (17, 'Ana')"_s,
+                          u"insert into clientes (codigo, nombre, borrar) values (18, 'Eva', -1)"_s,
+                          u"insert into seccion (codigo, nombre) values (4, 'Champús')"_s,
+                          u"insert into seccion (codigo, nombre, borrar) values (5, 'Vieja', -1)"_s,
+                          u"insert into proveedores (codigo, nombre) values (9, 'Ñandú S.L.')"_s,
+                          u"insert into empleados (codigo, nombre, mostrar_caja) values (3, 'Luz', -1)"_s,
+                          u"insert into empleados (codigo, nombre, mostrar_caja, baja) values (4, 'Sol', -1, -1)"_s,
+                          u"insert into empleados (codigo, nombre, mostrar_caja) values (5, 'Paz', 0)"_s});
+        m_contexto.ConexionTienda.Open(u"dsn=TiendaKestrane"_s);
         m_contexto.ModuloFacturas = true;
         m_pedido.fila = catalogue::busca(u"cmd_Ventas2");
     }
@@ -44,8 +53,8 @@ protected:
         }
     }
 
-    EntornoDatos m_entorno{{}};
-    ContextoEjecucion m_contexto{m_entorno};
+    TiendaDePrueba m_tienda;
+    ContextoEjecucion m_contexto{m_tienda.entorno()};
     PedidoInforme m_pedido;
     RelojFijo m_reloj{*Fecha::deCalendario(2024, 3, 15, 18)};
 };
@@ -119,6 +128,41 @@ TEST_F(DialogosDeLoteTest, TheSearchNeedsItsClientAndTheReprintItsNumber)
     muestra(Dialogo::ReImprimir);
     EXPECT_EQ(m_contexto.NumeroReimpresion, u"105"_s);
     EXPECT_TRUE(m_contexto.ReimprimirFactura && m_contexto.FiltroAceptado);
+}
+
+TEST_F(DialogosDeLoteTest, ACodeThatNoButtonHasIsRefusedInEveryDialog)
+{
+    const auto con = [this](Respuesta respuesta, qint32 codigo, Dialogo dialogo) {
+        m_pedido.respuestas = {{respuesta, codigo}};
+        return rechazo(dialogo);
+    };
+    EXPECT_EQ(con(Respuesta::Cliente, 99, Dialogo::Buscar), "cmd_Ventas2 no ofrece el código 99.");
+    EXPECT_EQ(con(Respuesta::Cliente, 18, Dialogo::Buscar), "cmd_Ventas2 no ofrece el código 18.");
+    EXPECT_EQ(con(Respuesta::Seccion, 5, Dialogo::HistoricoXClientes), "cmd_Ventas2 no ofrece el código 5.");
+    EXPECT_EQ(con(Respuesta::Empleado, 4, Dialogo::HistoricoXEmpleados), "cmd_Ventas2 no ofrece el código 4.");
+    EXPECT_EQ(con(Respuesta::Empleado, 5, Dialogo::ProductosVendidos), "cmd_Ventas2 no ofrece el código 5.");
+    EXPECT_EQ(con(Respuesta::Proveedor, 8, Dialogo::ProductosVendidos), "cmd_Ventas2 no ofrece el código 8.");
+    EXPECT_EQ(con(Respuesta::Proveedor, 8, Dialogo::FiltrosProductos), "cmd_Ventas2 no ofrece el código 8.");
+    EXPECT_FALSE(m_contexto.FiltroAceptado);
+}
+
+TEST_F(DialogosDeLoteTest, TheCodeOfAllIsAll)
+{
+    responde(Respuesta::Empleado, Todos);
+    responde(Respuesta::Seccion, Todos);
+    responde(Respuesta::Proveedor, Todos);
+    EXPECT_EQ(rechazo(Dialogo::HistoricoXEmpleados), "");
+    EXPECT_EQ(rechazo(Dialogo::HistoricoXClientes), "");
+    EXPECT_EQ(rechazo(Dialogo::ProductosVendidos), "");
+    EXPECT_TRUE(m_contexto.filtros.todasLasSecciones);
+}
+
+TEST_F(DialogosDeLoteTest, ByMonthsCompletenessIsOfferedInEveryShop)
+{
+    m_contexto.ModuloFacturas = false;
+    responde(Respuesta::Completa);
+    EXPECT_EQ(muestra(Dialogo::Meses), u""_s);
+    EXPECT_TRUE(m_contexto.CajaCompleta);
 }
 
 TEST_F(DialogosDeLoteTest, AClientsHistoryIsOfAllSectionsUnlessOneIsGiven)
@@ -373,6 +417,17 @@ TEST_F(EligeTienda, OnTheServerAStoreThatIsNotInItsListIsRefused)
     m_contexto.Tiendas[1].Texto = u"Peñíscola"_s;
     EXPECT_THROW(elige(u"Centro"_s), PeticionImposible);
     EXPECT_EQ(elige(u"PEÑÍSCOLA"_s), u"Peñíscola"_s);
+}
+
+TEST_F(EligeTienda, OfStoresThatDifferInCaseAloneTheOneThatIsSpeltSoIsMeant)
+{
+    enServidor();
+    m_contexto.Tiendas.reserva(3);
+    m_contexto.Tiendas[1].Texto = u"Centro"_s;
+    m_contexto.Tiendas[2].Texto = u"CENTRO"_s;
+    EXPECT_EQ(elige(u"CENTRO"_s), u"CENTRO"_s);
+    EXPECT_EQ(elige(u"Centro"_s), u"Centro"_s);
+    EXPECT_EQ(elige(u"centro"_s), u"Centro"_s);
 }
 
 TEST_F(EligeTienda, TodasIsAllOfThem)

@@ -1,6 +1,6 @@
 #include "lote/escritor_informes.h"
 
-#include "lote/error_de_salida.h"
+#include "platform/runtime/error_de_salida.h"
 
 #include <gtest/gtest.h>
 

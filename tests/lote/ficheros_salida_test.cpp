@@ -1,12 +1,15 @@
 #include "lote/ficheros_salida.h"
 
-#include "lote/error_de_salida.h"
+#include "platform/runtime/error_de_salida.h"
 
 #include <gtest/gtest.h>
 
 #include <QBuffer>
 #include <QDir>
+#include <QProcess>
 #include <QTemporaryDir>
+
+#include <sys/stat.h>
 
 namespace kestrane::lote {
 namespace {
@@ -119,6 +122,47 @@ TEST_F(FicherosSalida, WhenOneOfSeveralCannotBeWrittenNoneIs)
     ASSERT_TRUE(QDir{m_carpeta.path()}.mkdir(u"caja-Centro.json"_s));
     EXPECT_THROW(escribe(u"caja.json"_s), ErrorDeSalida);
     EXPECT_EQ(ficheros(), QStringList{});
+}
+
+TEST_F(FicherosSalida, APipeTakesAllReportsAsOneDocumentAndStaysAPipe)
+{
+    const QString tubo = ruta(u"tubo.json"_s);
+    ASSERT_EQ(mkfifo(QFile::encodeName(tubo).constData(), 0600), 0);
+    informe(u"Sur"_s, "a");
+    informe(u"Centro"_s, "b");
+    compruebaQueSePuedeEscribir(tubo);
+    QProcess lector;
+    lector.start(u"cat"_s, {tubo});
+    ASSERT_TRUE(lector.waitForStarted());
+    escribe(u"tubo.json"_s);
+    ASSERT_TRUE(lector.waitForFinished());
+    EXPECT_EQ(lector.readAllStandardOutput(), "<a|b>");
+    EXPECT_EQ(QDir{m_carpeta.path()}.entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot),
+              QStringList{u"tubo.json"_s});
+    EXPECT_FALSE(QFileInfo{tubo}.isFile());
+}
+
+TEST_F(FicherosSalida, ADeviceThatIsFullIsAnError)
+{
+    informe({}, "a");
+    compruebaQueSePuedeEscribir(u"/dev/full"_s);
+    try {
+        escribeFicheros(u"/dev/full"_s, m_escritor, m_informes);
+        FAIL() << "it was taken";
+    } catch (const ErrorDeSalida& error) {
+        EXPECT_EQ(error.motivo(), u"\"/dev/full\": no queda sitio en el disco"_s);
+    }
+}
+
+TEST_F(FicherosSalida, AFolderIsNoFile)
+{
+    ASSERT_TRUE(QDir{m_carpeta.path()}.mkdir(u"caja"_s));
+    try {
+        compruebaQueSePuedeEscribir(ruta(u"caja"_s));
+        FAIL() << "it was accepted";
+    } catch (const ErrorDeSalida& error) {
+        EXPECT_TRUE(error.motivo().endsWith(u"/caja\": es una carpeta"_s)) << error.what();
+    }
 }
 
 } // namespace

@@ -1,17 +1,18 @@
 #include "lote/informe_de_lote.h"
 
 #include "apoyo/tienda_de_prueba.h"
-#include "lote/error_de_salida.h"
 #include "lote/estado_de_salida.h"
 #include "lote/peticion_imposible.h"
 #include "pipeline/catalogue/catalogo.h"
 #include "pipeline/informe_nuevo.h"
+#include "platform/runtime/error_de_salida.h"
 #include "platform/runtime/error_ejecucion.h"
 
 #include <gtest/gtest.h>
 
 #include <QBuffer>
 #include <QDir>
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -40,6 +41,26 @@ void fallaEnLaSegunda(Listados& listados)
         throw ErrorEjecucion{ErrorEjecucion::Desbordamiento};
     construye(listados);
 }
+
+void construyeSinFilas(Listados& listados)
+{
+    InformeNuevo informe{listados, cabeceras::Completa};
+}
+
+void construyeConPasos(Listados& listados)
+{
+    construye(listados);
+    listados.progreso.IncrementaBarra();
+    listados.progreso.IncrementaBarra();
+}
+
+void daUnPasoYFalla(Listados& listados)
+{
+    listados.progreso.IncrementaBarra();
+    throw ErrorEjecucion{ErrorEjecucion::Desbordamiento};
+}
+
+constexpr auto SinDatos = "listados-lote: No hay datos para ser mostrados.\n";
 
 /// A report with a date dialog that loops over the stores.
 FilaCatalogo informe(QStringView control, Constructor constructor)
@@ -72,7 +93,7 @@ protected:
         m_opciones.informe.fila = &fila;
         m_tienda.tienda().Close();
         m_tienda.listados().Close();
-        return ejecutaInforme(m_opciones, m_tienda.opciones(), {m_tienda.carpeta(), m_salida, m_errores});
+        return ejecutaInforme(m_opciones, m_tienda.opciones(), {m_tienda.carpeta(), m_salida, m_avisos});
     }
 
     /// "store:layout:data:texto1 of the rows" of each report on the output.
@@ -95,6 +116,7 @@ protected:
     TiendaDePrueba m_tienda;
     QBuffer m_salida;
     QBuffer m_errores;
+    Avisos m_avisos{m_errores, DestinoErrores::Fichero, [] { return qint64{0}; }};
     Opciones m_opciones;
 };
 
@@ -152,7 +174,7 @@ TEST_F(InformeDeLote, OneObjectForEachStoreInTheirOrderThoughOneHasNoData)
     EXPECT_EQ(ejecuta(informe(u"cmd_Ventas2", construye)), SalidaBien);
     EXPECT_EQ(informes(), (QStringList{u"Sur:K_formapago.rpt:si:Sur"_s, u"Vacía:K_formapago.rpt:no:"_s,
                                        u"Centro:K_formapago.rpt:si:Centro"_s}));
-    EXPECT_EQ(errores(), "");
+    EXPECT_EQ(errores(), SinDatos) << "of the second store";
 }
 
 TEST_F(InformeDeLote, AStoreThatWasChosenIsReportedAlone)
@@ -163,11 +185,58 @@ TEST_F(InformeDeLote, AStoreThatWasChosenIsReportedAlone)
     EXPECT_EQ(informes(), QStringList{u"Centro:K_formapago.rpt:si:Centro"_s});
 }
 
-TEST_F(InformeDeLote, WithoutDataInEveryReportTheStatusSaysSo)
+TEST_F(InformeDeLote, WithoutDataInEveryReportEachSaysSoAndTheStatusToo)
 {
-    enServidorCon({u"Vacía"_s});
-    EXPECT_EQ(ejecuta(informe(u"cmd_Ventas2", construye)), SalidaSinDatos);
-    EXPECT_EQ(informes(), QStringList{u"Vacía:K_formapago.rpt:no:"_s});
+    enServidorCon({u"Sur"_s, u"Centro"_s});
+    EXPECT_EQ(ejecuta(informe(u"cmd_Ventas2", construyeSinFilas)), SalidaSinDatos);
+    EXPECT_EQ(informes(), (QStringList{u"Sur:K_formapago.rpt:no:"_s, u"Centro:K_formapago.rpt:no:"_s}));
+    EXPECT_EQ(errores(), std::string{SinDatos} + SinDatos);
+}
+
+TEST_F(InformeDeLote, TheKeptReportsDatabaseOfAnEarlierRunOutlivesOneThatFails)
+{
+    const QString carpeta = QDir{m_tienda.carpeta()}.filePath(u"copia"_s);
+    m_opciones.informe.carpetaListados = carpeta;
+    EXPECT_EQ(ejecuta(informe(u"cmd_Ventas2", construye)), SalidaBien);
+    QFile conservada{carpeta + u"/ListKestrane.db"_s};
+    ASSERT_TRUE(conservada.open(QIODevice::ReadOnly));
+    const QByteArray antes = conservada.readAll();
+    conservada.close();
+    enServidorCon({u"Sur"_s, u"Vacía"_s});
+    EXPECT_THROW(ejecuta(informe(u"cmd_Ventas2", fallaEnLaSegunda)), ErrorEjecucion);
+    ASSERT_TRUE(conservada.open(QIODevice::ReadOnly));
+    EXPECT_EQ(conservada.readAll(), antes);
+    EXPECT_EQ(QDir{carpeta}.entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList{u"ListKestrane.db"_s});
+}
+
+/// Somebody watches a report that takes a second per step.
+class InformeEnTerminal : public InformeDeLote
+{
+protected:
+    int ejecutaDespacio(Constructor constructor)
+    {
+        const FilaCatalogo fila = informe(u"cmd_Ventas2", constructor);
+        m_opciones.informe.fila = &fila;
+        m_tienda.tienda().Close();
+        m_tienda.listados().Close();
+        return ejecutaInforme(m_opciones, m_tienda.opciones(), {m_tienda.carpeta(), m_salida, m_lentos});
+    }
+
+    qint64 m_ahora = 0;
+    Avisos m_lentos{m_errores, DestinoErrores::Terminal, [this] { return m_ahora += 1000; }};
+};
+
+TEST_F(InformeEnTerminal, ItsStepsAreCountedOnALineThatVanishes)
+{
+    EXPECT_EQ(ejecutaDespacio(construyeConPasos), SalidaBien);
+    EXPECT_EQ(errores(), "Generando Reporte: 1\r\x1b[KGenerando Reporte: 2\r\x1b[K");
+}
+
+TEST_F(InformeEnTerminal, AnErrorInTheMidstStandsOnALineOfItsOwn)
+{
+    EXPECT_THROW(ejecutaDespacio(daUnPasoYFalla), ErrorEjecucion);
+    m_lentos.di(u"error 6."_s);
+    EXPECT_EQ(errores(), "Generando Reporte: 1\r\x1b[Klistados-lote: error 6.\n");
 }
 
 TEST_F(InformeDeLote, SeveralReportsAreAFileEach)

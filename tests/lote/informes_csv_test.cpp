@@ -1,11 +1,14 @@
 #include "lote/informes_csv.h"
 
 #include "apoyo/tienda_de_prueba.h"
-#include "lote/error_de_salida.h"
+#include "lote/ficheros_salida.h"
+#include "platform/runtime/error_de_salida.h"
 
 #include <gtest/gtest.h>
 
 #include <QBuffer>
+#include <QDir>
+#include <QFile>
 
 namespace kestrane::lote {
 namespace {
@@ -39,7 +42,6 @@ TEST_F(InformesCsvTest, AnOutputThatTakesNothingIsAnError)
 
 TEST_F(InformesCsvTest, TheFirstLineHasTheMarkAndNamesStoreTableAndAllColumns)
 {
-    EXPECT_EQ(lineas(), QStringList{u""_s});
     const QByteArray principio = m_csv.principio();
     EXPECT_TRUE(principio.startsWith("\xEF\xBB\xBFtienda;tabla;texto1;texto2;"));
     EXPECT_TRUE(principio.endsWith(";fecha4;memo1\r\n"));
@@ -75,6 +77,61 @@ TEST_F(InformesCsvTest, RowsOfBothTablesComeOneBehindTheOther)
     EXPECT_TRUE(todas[0].startsWith(u"Sur;informes;1;"_s));
     EXPECT_TRUE(todas[1].startsWith(u"Sur;informes;2;"_s));
     EXPECT_TRUE(todas[2].startsWith(u"Sur;subinformes;3;"_s));
+}
+
+/// Reports of two stores, the second without rows, as a run leaves them.
+class CsvDeVariasTiendas : public InformesCsvTest
+{
+protected:
+    CsvDeVariasTiendas()
+    {
+        m_tienda.ejecutaListados({u"insert into informes (texto1) values ('1')"_s});
+        anade(u"Sur"_s);
+        m_tienda.ejecutaListados({u"delete from informes"_s});
+        anade(u"Centro"_s);
+    }
+
+    void anade(const QString& tienda)
+    {
+        CuerpoInforme cuerpo{.tienda = tienda, .fichero = std::make_unique<QTemporaryFile>()};
+        ASSERT_TRUE(cuerpo.fichero->open());
+        m_csv.escribe({.control = {}, .tienda = tienda, .layout = {}, .impresora = {}}, m_tienda.listados(), *cuerpo.fichero);
+        m_informes.push_back(std::move(cuerpo));
+    }
+
+    /// The lines of a document up to the first column of the tables.
+    static QStringList comienzos(const QByteArray& documento)
+    {
+        QStringList todos;
+        for (const QString& linea : QString::fromUtf8(documento).split(u"\r\n"_s))
+            todos += linea.section(u';', 0, 2);
+        return todos;
+    }
+
+    [[nodiscard]] QByteArray fichero(const QString& nombre) const
+    {
+        QFile escrito{QDir{m_tienda.carpeta()}.filePath(nombre)};
+        EXPECT_TRUE(escrito.open(QIODevice::ReadOnly)) << nombre.toStdString();
+        return escrito.readAll();
+    }
+
+    const QString m_cabeza = u"tienda;tabla;texto1"_s; // reading takes the mark away
+    std::vector<CuerpoInforme> m_informes;
+};
+
+TEST_F(CsvDeVariasTiendas, OnTheOutputTheyAreOneTableUnderOneFirstLine)
+{
+    QBuffer salida;
+    salida.open(QIODevice::WriteOnly);
+    escribeEn(salida, m_csv, m_informes);
+    EXPECT_EQ(comienzos(salida.data()), (QStringList{m_cabeza, u"Sur;informes;1"_s, u""_s}));
+}
+
+TEST_F(CsvDeVariasTiendas, AsFilesEachHasItsFirstLineThoughItHasNoRows)
+{
+    escribeFicheros(QDir{m_tienda.carpeta()}.filePath(u"caja.csv"_s), m_csv, m_informes);
+    EXPECT_EQ(comienzos(fichero(u"caja-Sur.csv"_s)), (QStringList{m_cabeza, u"Sur;informes;1"_s, u""_s}));
+    EXPECT_EQ(comienzos(fichero(u"caja-Centro.csv"_s)), (QStringList{m_cabeza, u""_s}));
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "lote/informes_json.h"
 
 #include "apoyo/tienda_de_prueba.h"
-#include "lote/error_de_salida.h"
+#include "platform/runtime/error_de_salida.h"
 
 #include <gtest/gtest.h>
 

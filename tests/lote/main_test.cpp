@@ -1,10 +1,12 @@
 #include "apoyo/tienda_de_prueba.h"
 #include "lote/estado_de_salida.h"
+#include "platform/database/recordset.h"
 
 #include <gtest/gtest.h>
 
 #include <QProcess>
 
+#include <algorithm>
 #include <memory>
 #include <vector>
 
@@ -14,43 +16,107 @@ namespace {
 using namespace Qt::StringLiterals;
 using prueba::TiendaDePrueba;
 
-std::unique_ptr<QProcess> arranca(const TiendaDePrueba& tienda, const QStringList& argumentos)
+class ListadosLote : public testing::Test
 {
-    auto proceso = std::make_unique<QProcess>();
-    proceso->start(QStringLiteral(KESTRANE_LISTADOS_LOTE),
-                   QStringList{u"--datos"_s, tienda.carpeta(), u"--regional"_s, u"es_ES"_s} + argumentos);
-    return proceso;
+protected:
+    [[nodiscard]] QStringList completos(const QStringList& argumentos) const
+    {
+        return QStringList{u"--datos"_s, m_tienda.carpeta(), u"--regional"_s, u"es_ES"_s} + argumentos;
+    }
+    [[nodiscard]] std::unique_ptr<QProcess> arranca(const QStringList& argumentos) const
+    {
+        auto proceso = std::make_unique<QProcess>();
+        proceso->start(Programa, completos(argumentos));
+        return proceso;
+    }
+    static int estado(QProcess& proceso)
+    {
+        EXPECT_TRUE(proceso.waitForFinished(120000)) << proceso.errorString().toStdString();
+        EXPECT_EQ(proceso.exitStatus(), QProcess::NormalExit);
+        return proceso.exitCode();
+    }
+    static std::string errores(QProcess& proceso) { return proceso.readAllStandardError().toStdString(); }
+
+    const QString Programa = QStringLiteral(KESTRANE_LISTADOS_LOTE);
+    TiendaDePrueba m_tienda;
+};
+
+TEST_F(ListadosLote, AnOutputThatIsFullIsAnError)
+{
+    for (const QStringList& argumentos :
+         {QStringList{u"cmd_Marcas"_s}, QStringList{u"--lista"_s}, QStringList{u"--sql"_s, u"select * from marcas"_s}}) {
+        QProcess proceso;
+        proceso.setStandardOutputFile(u"/dev/full"_s);
+        proceso.start(Programa, completos(argumentos));
+        EXPECT_EQ(estado(proceso), SalidaError) << argumentos.join(u' ').toStdString();
+        const std::string dicho = errores(proceso);
+        EXPECT_NE(dicho.find("no se puede escribir en la salida estándar (no queda sitio en el disco).\n"), std::string::npos)
+            << dicho;
+    }
 }
 
-TEST(ListadosLote, TheProgramEndsWithItsStatusAndKeepsErrorsApart)
+TEST_F(ListadosLote, AnOutputThatIsClosedIsToldBeforeTheWork)
 {
-    TiendaDePrueba tienda;
-    const auto proceso = arranca(tienda, {u"cmd_Marcas"_s, u"--mes"_s, u"3"_s});
-    ASSERT_TRUE(proceso->waitForFinished());
-    EXPECT_EQ(proceso->exitStatus(), QProcess::NormalExit);
-    EXPECT_EQ(proceso->exitCode(), SalidaSinDatos);
-    EXPECT_EQ(proceso->readAllStandardError(), "listados-lote: cmd_Marcas no ofrece --mes, que se ignora.\n");
+    QProcess proceso;
+    proceso.start(u"/bin/sh"_s, QStringList{u"-c"_s, u"exec \"$0\" \"$@\" >&-"_s, Programa} + completos({u"--lista"_s}));
+    EXPECT_EQ(estado(proceso), SalidaError);
+    EXPECT_EQ(errores(proceso), "listados-lote: no se puede escribir en la salida estándar (está cerrada).\n");
+}
+
+TEST_F(ListadosLote, WithoutAFolderForTemporaryFilesItSaysSo)
+{
+    QProcess proceso;
+    QProcessEnvironment entorno = QProcessEnvironment::systemEnvironment();
+    for (const QString& nombre : {u"/nada"_s, u"/TiendaKestrane.db"_s}) {
+        entorno.insert(u"TMPDIR"_s, m_tienda.carpeta() + nombre);
+        proceso.setProcessEnvironment(entorno);
+        proceso.start(Programa, completos({u"cmd_Marcas"_s}));
+        EXPECT_EQ(estado(proceso), SalidaError);
+        const std::string dicho = errores(proceso);
+        EXPECT_NE(dicho.find("no se puede escribir en la carpeta \""), std::string::npos) << dicho;
+        EXPECT_EQ(std::ranges::count(dicho, '\n'), 1) << dicho;
+        EXPECT_EQ(proceso.readAllStandardOutput(), "");
+    }
+}
+
+TEST_F(ListadosLote, TheProgramEndsWithItsStatusAndKeepsErrorsApart)
+{
+    const auto proceso = arranca({u"cmd_Marcas"_s, u"--mes"_s, u"3"_s});
+    EXPECT_EQ(estado(*proceso), SalidaSinDatos);
+    EXPECT_EQ(errores(*proceso),
+              "listados-lote: No hay datos para ser mostrados.\nlistados-lote: cmd_Marcas no ofrece --mes, que se ignora.\n");
     EXPECT_TRUE(proceso->readAllStandardOutput().endsWith("}]\n"));
 }
 
-TEST(ListadosLote, TenAtOnceBesideAnOpenReportsDatabaseWriteTheSame)
+TEST_F(ListadosLote, TenAtOnceBesideAProgramThatFillsItsReportsDatabaseWriteTheSame)
 {
-    TiendaDePrueba tienda;
     for (int i = 0; i < 300; ++i)
-        tienda.ejecuta(u"insert into marcas (codigo, nombre) values (%1, 'Marca %1')"_s.arg(i));
-    tienda.ejecutaListados(u"insert into informes (texto1) values ('del programa')"_s);
+        m_tienda.ejecuta(u"insert into marcas (codigo, nombre) values (%1, 'Marca %1')"_s.arg(i));
     std::vector<std::unique_ptr<QProcess>> procesos;
     for (int i = 0; i < 10; ++i)
-        procesos.push_back(arranca(tienda, {u"cmd_Marcas"_s}));
+        procesos.push_back(arranca({u"cmd_Marcas"_s}));
+    const auto trabaja = [](const auto& proceso) { return proceso->state() != QProcess::NotRunning; };
+    int filas = 0;
+    while (std::ranges::any_of(procesos, trabaja)) {
+        m_tienda.ejecutaListados(u"insert into informes (texto1) values ('del programa')"_s);
+        ++filas;
+        for (const auto& proceso : procesos)
+            proceso->waitForFinished(0);
+    }
     QByteArray primero;
     for (const auto& proceso : procesos) {
-        ASSERT_TRUE(proceso->waitForFinished(120000)) << proceso->errorString().toStdString();
-        EXPECT_EQ(proceso->exitCode(), SalidaBien) << proceso->readAllStandardError().toStdString();
+        EXPECT_EQ(proceso->exitStatus(), QProcess::NormalExit);
+        EXPECT_EQ(proceso->exitCode(), SalidaBien) << errores(*proceso);
         const QByteArray salida = proceso->readAllStandardOutput();
         EXPECT_EQ(salida.count("Marca "), 300);
+        EXPECT_FALSE(salida.contains("del programa"));
         EXPECT_TRUE(primero.isEmpty() || salida == primero);
         primero = salida;
     }
+    EXPECT_GT(filas, 0);
+    Recordset escritas;
+    escritas.Open(u"select * from informes"_s, m_tienda.listados());
+    EXPECT_EQ(escritas.RecordCount(), filas);
 }
 
 } // namespace

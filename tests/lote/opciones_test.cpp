@@ -29,12 +29,18 @@ TEST(Opciones, WhatMakesNoSenseIsRefusedWithASentence)
     EXPECT_EQ(rechazo({u"--sql"_s}), "A --sql le falta su valor.");
     EXPECT_EQ(rechazo({u"cmd_Marcas"_s, u"--desde"_s}), "A --desde le falta su valor.");
     EXPECT_EQ(rechazo({u"--sql"_s, u"a"_s, u"--escribir=si"_s}), "--escribir no lleva valor.");
+    EXPECT_EQ(rechazo({u"--sql=x"_s, u"--escribir=si"_s}), "--escribir no lleva valor.");
+    EXPECT_EQ(rechazo({u"cmd_Caja1"_s, u"--completa=1"_s, u"--ticket"_s}), "--completa no lleva valor.");
+    EXPECT_EQ(rechazo({u"cmd_Marcas"_s, u"--salida"_s, u""_s}), "A --salida le falta su valor.");
+    EXPECT_EQ(rechazo({u"cmd_Marcas"_s, u"--listados="_s}), "A --listados le falta su valor.");
+    EXPECT_EQ(rechazo({u"cmd_Marcas"_s, u"--datos"_s, u""_s}), "A --datos le falta su valor.");
     EXPECT_EQ(rechazo({u"--sql"_s, u"a"_s, u"b"_s}), "Sobra \"b\".");
     EXPECT_EQ(rechazo({u"--lista"_s, u"cmd_Marcas"_s}), "Sobra \"cmd_Marcas\".");
     EXPECT_EQ(rechazo({u"cmd_Marcas"_s, u"cmd_Tallas"_s}), "Sobra \"cmd_Tallas\".");
     EXPECT_EQ(rechazo({u"--sql"_s, u"a"_s, u"--conexion"_s, u"caja"_s}), "--conexion admite tienda o listados, no \"caja\".");
     EXPECT_EQ(rechazo({u"--sql"_s, u"a"_s, u"--regional"_s, u"marciano"_s}),
               "No existe la configuración regional \"marciano\"; escríbala como es_ES.");
+    EXPECT_EQ(rechazo({u"cmd_Marcas"_s, u"--hoy"_s, u"2024- 3- 5"_s}), "--hoy lleva una fecha AAAA-MM-DD, no \"2024- 3- 5\".");
     EXPECT_EQ(rechazo({u"cmd_Marcas"_s, u"--hoy"_s, u"ayer"_s}), "--hoy lleva una fecha AAAA-MM-DD, no \"ayer\".");
     EXPECT_EQ(rechazo({u"cmd_Nada"_s}), "No existe el listado \"cmd_Nada\"; con --lista se ven todos.");
 }
@@ -91,9 +97,21 @@ TEST(Opciones, ADataSourceMayBeNamed)
     EXPECT_EQ(lee({u"--sql"_s, u"a"_s, u"--dsn"_s, u"Otra"_s}).valor().dsn, u"Otra"_s);
 }
 
-TEST(Opciones, HelpIsAskedForInTwoWays)
+TEST(Opciones, OneDashIsAsGoodAsTwo)
+{
+    EXPECT_EQ(lee({u"-lista"_s}).valor().trabajo, Opciones::Trabajo::Lista);
+    EXPECT_EQ(lee({u"-sql"_s, u"select 1"_s}).valor().texto, u"select 1"_s);
+}
+
+TEST(Opciones, TheEmptyStoreIsAValue)
+{
+    EXPECT_EQ(lee({u"cmd_Marcas"_s, u"--tienda"_s, u""_s}).valor().informe.tienda, u""_s);
+}
+
+TEST(Opciones, HelpIsAskedForInThreeWays)
 {
     EXPECT_EQ(lee({u"--ayuda"_s}).valor().trabajo, Opciones::Trabajo::Ayuda);
+    EXPECT_EQ(lee({u"--help"_s}).valor().trabajo, Opciones::Trabajo::Ayuda);
     EXPECT_TRUE(lee({u"-h"_s}).valor().texto.startsWith(u"Uso: listados-lote"_s));
 }
 

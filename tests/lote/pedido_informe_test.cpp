@@ -43,6 +43,9 @@ TEST(PedidoInforme, AValueThatMakesNoSenseIsRefused)
     EXPECT_EQ(rechazo(u"cmd_Ventas3"_s, {u"--cliente"_s, u"Ana"_s}), "--cliente lleva un número entero, no \"Ana\".");
     EXPECT_EQ(rechazo(u"cmd_Ventas3"_s, {u"--cliente"_s, u"99999999999"_s}),
               "--cliente lleva un número entero, no \"99999999999\".");
+    EXPECT_EQ(rechazo(u"cmd_Ventas3"_s, {u"--cliente"_s, u"-1"_s}), "--cliente lleva un número desde 0, no \"-1\".");
+    EXPECT_EQ(rechazo(u"cmd_Caja5"_s, {u"--factura"_s, u"-1"_s}), "--factura lleva un número desde 0, no \"-1\".");
+    EXPECT_EQ(rechazo(u"cmd_Ventas6"_s, {u"--empleado"_s, u"-2"_s}), "--empleado lleva un número desde -1, no \"-2\".");
     EXPECT_EQ(rechazo(u"Command7"_s, {u"--mes"_s, u"13"_s}), "--mes va de 1 a 12, no es \"13\".");
     EXPECT_EQ(rechazo(u"Command7"_s, {u"--anio"_s, u"24"_s}), "--anio va de 100 a 9999, no es \"24\".");
     EXPECT_EQ(rechazo(u"cmd_Ventas3"_s, {u"--solo"_s, u"bonos"_s}), "--solo admite productos o servicios, no \"bonos\".");
@@ -53,6 +56,12 @@ TEST(PedidoInforme, FormatsThatAreStillToComeSaySo)
 {
     EXPECT_EQ(rechazo(u"cmd_Marcas"_s, {u"--formato"_s, u"pdf"_s}), "El formato pdf todavía no está disponible; use json o csv.");
     EXPECT_EQ(rechazo(u"cmd_Marcas"_s, {u"--formato"_s, u"doc"_s}), "--formato admite json o csv, no \"doc\".");
+}
+
+TEST(PedidoInforme, TheFormatIsReadInAnyCase)
+{
+    EXPECT_EQ(lee(u"cmd_Marcas"_s, {u"--formato"_s, u"JSON"_s}).valor().formato, Formato::Json);
+    EXPECT_EQ(lee(u"cmd_Marcas"_s, {u"--formato"_s, u"Csv"_s}).valor().formato, Formato::Csv);
 }
 
 TEST(PedidoInforme, WithoutOptionsThereIsNothingButTheRow)
@@ -103,14 +112,6 @@ TEST(PedidoInforme, AnAnswerKnowsItsOption)
 {
     EXPECT_EQ(opcionDe(Respuesta::BajoMinimos), u"--bajo-minimos"_s);
     EXPECT_EQ(opcionDe(Respuesta::Anio), u"--anio"_s);
-}
-
-TEST(LeeDia, OnlyTheOneSpellingOfARealDayCounts)
-{
-    EXPECT_EQ(leeDia(u"2024-02-29"), Fecha::deCalendario(2024, 2, 29));
-    for (const QStringView texto :
-         {u"2023-02-29", u"2024-2-29", u"24-02-29", u"2024/02/29", u"2024-02-29 ", u"", u"hoy", u"2024-0a-01"})
-        EXPECT_FALSE(leeDia(texto)) << texto.toString().toStdString();
 }
 
 } // namespace

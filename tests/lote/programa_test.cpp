@@ -52,6 +52,24 @@ TEST_F(Programa, ACommandLineThatMakesNoSenseIsOneSentenceAndStatusTwo)
     EXPECT_EQ(m_salida, "");
 }
 
+TEST_F(Programa, AWrongValueIsStatusTwo)
+{
+    const auto expectUso = [this](const QStringList& argumentos, const QByteArray& frase) {
+        m_errores.clear();
+        EXPECT_EQ(programa(argumentos), SalidaUso);
+        EXPECT_EQ(m_errores, "listados-lote: " + frase + " Con --ayuda se ven las opciones.\n");
+        EXPECT_EQ(m_salida, "");
+    };
+    expectUso({u"cmd_Caja1"_s, u"--desde"_s, u"2024-+3-+5"_s}, "--desde lleva una fecha AAAA-MM-DD, no \"2024-+3-+5\".");
+    expectUso({u"cmd_Caja1"_s, u"--hoy"_s, u"2024-02-30"_s}, "--hoy lleva una fecha AAAA-MM-DD, no \"2024-02-30\".");
+    expectUso({u"cmd_Caja1"_s, u"--desde"_s}, "A --desde le falta su valor.");
+    expectUso({u"cmd_Caja1"_s, u"--salida"_s, u""_s}, "A --salida le falta su valor.");
+    expectUso({u"cmd_Caja1"_s, u"--completa=1"_s, u"--ticket"_s}, "--completa no lleva valor.");
+    expectUso({u"cmd_Marcas"_s, u"--regional"_s, u"marciano"_s},
+              "No existe la configuración regional \"marciano\"; escríbala como es_ES.");
+    expectUso({u"cmd_Ventas3"_s, u"--cliente"_s, u"-1"_s}, "--cliente lleva un número desde 0, no \"-1\".");
+}
+
 TEST_F(Programa, AFolderWithoutDatabasesIsOneSentenceAndStatusOne)
 {
     EXPECT_EQ(programa({u"cmd_Marcas"_s}, m_tienda.carpeta() + u"/nada"_s), SalidaError);
@@ -79,7 +97,8 @@ TEST_F(Programa, AnAnswerThatTheDialogRefusesIsStatusTwo)
 TEST_F(Programa, AnOutputThatCannotBeWrittenIsStatusOne)
 {
     EXPECT_EQ(programa({u"cmd_Generales8"_s, u"--salida"_s, m_tienda.carpeta() + u"/nada/a.json"_s}), SalidaError);
-    EXPECT_TRUE(m_errores.startsWith("listados-lote: no se puede escribir el resultado (")) << m_errores.toStdString();
+    EXPECT_TRUE(m_errores.startsWith("listados-lote: no se puede escribir el resultado (\"")) << m_errores.toStdString();
+    EXPECT_TRUE(m_errores.endsWith("/nada/a.json\": no existe).\n")) << m_errores.toStdString();
     EXPECT_EQ(m_errores.count('\n'), 1);
 }
 
@@ -99,6 +118,15 @@ TEST_F(Programa, WithoutDataTheArrayIsWrittenAllTheSame)
     EXPECT_EQ(programa({u"cmd_Marcas"_s}), SalidaSinDatos);
     EXPECT_TRUE(
         m_salida.startsWith(R"([{"control":"cmd_Marcas","tienda":"","layout":"TC_Marcas.rpt","impresora":"","datos":false,)"));
+    EXPECT_EQ(m_errores, "listados-lote: No hay datos para ser mostrados.\n");
+}
+
+TEST_F(Programa, WithoutDataATableIsItsFirstLine)
+{
+    EXPECT_EQ(programa({u"cmd_Marcas"_s, u"--formato"_s, u"CSV"_s}), SalidaSinDatos);
+    EXPECT_TRUE(m_salida.startsWith("\xEF\xBB\xBFtienda;tabla;texto1;")) << m_salida.toStdString();
+    EXPECT_TRUE(m_salida.endsWith(";memo1\r\n"));
+    EXPECT_EQ(m_salida.count('\n'), 1);
 }
 
 TEST_F(Programa, AnOptionThatNoDialogOffersIsNamedAndIgnored)

@@ -1,11 +1,14 @@
 #include "lote/salida_de_lote.h"
 
 #include "apoyo/tienda_de_prueba.h"
-#include "lote/error_de_salida.h"
 #include "lote/informes_json.h"
+#include "lote/pantalla_de_lote.h"
+#include "platform/runtime/error_de_salida.h"
 #include "platform/runtime/error_ejecucion.h"
 
 #include <gtest/gtest.h>
+
+#include <QBuffer>
 
 namespace kestrane::lote {
 namespace {
@@ -16,7 +19,11 @@ using prueba::TiendaDePrueba;
 class SalidaDeLoteTest : public testing::Test
 {
 protected:
-    SalidaDeLoteTest() { m_contexto.ConexionListados.Open(u"dsn=ListKestrane"_s); }
+    SalidaDeLoteTest()
+    {
+        m_errores.open(QIODevice::WriteOnly);
+        m_contexto.ConexionListados.Open(u"dsn=ListKestrane"_s);
+    }
 
     static std::string cuerpo(const CuerpoInforme& informe)
     {
@@ -26,13 +33,18 @@ protected:
 
     TiendaDePrueba m_tienda;
     ContextoEjecucion m_contexto{m_tienda.entorno()};
+    [[nodiscard]] std::string errores() const { return m_errores.data().toStdString(); }
+
     InformesJson m_escritor;
-    SalidaDeLote m_salida{m_contexto, u"cmd_Caja1", m_escritor, m_tienda.carpeta()};
+    QBuffer m_errores;
+    Avisos m_avisos{m_errores, DestinoErrores::Fichero, [] { return qint64{0}; }};
+    MensajesDeLote m_mensajes{m_avisos};
+    SalidaDeLote m_salida{m_contexto, u"cmd_Caja1", m_escritor, m_mensajes, m_tienda.carpeta()};
 };
 
 TEST_F(SalidaDeLoteTest, AFolderThatTakesNoFileIsAnError)
 {
-    SalidaDeLote salida{m_contexto, u"cmd_Caja1", m_escritor, m_tienda.carpeta() + u"/nada"_s};
+    SalidaDeLote salida{m_contexto, u"cmd_Caja1", m_escritor, m_mensajes, m_tienda.carpeta() + u"/nada"_s};
     EXPECT_THROW(salida.ImprimirReport(u"K.rpt"_s), ErrorDeSalida);
 }
 
@@ -60,12 +72,15 @@ TEST_F(SalidaDeLoteTest, EachReportKeepsTheRowsItHadWhenItWasShown)
               R"({"control":"cmd_Caja1","tienda":"Centro","layout":"K.rpt","impresora":"","datos":false,)"
               "\n \"informes\":[],\n \"subinformes\":[]}");
     EXPECT_FALSE(m_salida.sinDatos());
+    EXPECT_EQ(errores(), "listados-lote: No hay datos para ser mostrados.\n") << "of the second alone";
 }
 
-TEST_F(SalidaDeLoteTest, WithoutDataInAnyReportThereIsNone)
+TEST_F(SalidaDeLoteTest, WithoutDataInAnyReportThereIsNoneAndEachSaysSo)
 {
     m_salida.ImprimirReport(u"K.rpt"_s);
+    m_salida.ImprimirReport(u"K.rpt"_s);
     EXPECT_TRUE(m_salida.sinDatos());
+    EXPECT_EQ(errores(), "listados-lote: No hay datos para ser mostrados.\nlistados-lote: No hay datos para ser mostrados.\n");
 }
 
 TEST_F(SalidaDeLoteTest, RowsThatAnEarlierReportLeftInSubinformesAreData)
