@@ -15,9 +15,11 @@ Opciones del listado, las mismas que ofrecen sus diálogos (las demás se ignora
   --desde AAAA-MM-DD           primer día; si no se indica, hoy
   --hasta AAAA-MM-DD           último día; si no se indica, hoy
   --tienda NOMBRE              una tienda; en el servidor, si no se indica, un informe por cada tienda
-  --completa                   la caja completa, donde está el módulo de facturas
+  --completa                   la caja completa; salvo en los listados por meses, donde está el módulo de facturas
   --ticket                     el formato para la impresora de tickets
-  --cliente N, --empleado N, --proveedor N, --seccion N, --factura N
+  --cliente N, --factura N     el cliente y la factura
+  --empleado N, --proveedor N, --seccion N
+                               uno de los que ofrece el programa; -1, o si no se indica, todos
   --solo productos|servicios   solo unos u otros
   --clase V|CI|A               productos de venta, de consumo interno o ambos
   --bajo-minimos               productos bajo mínimos
@@ -26,7 +28,8 @@ Opciones del listado, las mismas que ofrecen sus diálogos (las demás se ignora
   --totalizado                 el listado totalizado
   --mes N, --anio N            mes y año; si no se indican, los de hoy
   --formato json|csv           si no se indica, json
-  --salida FICHERO             si no se indica, la salida estándar; con varios informes se añade el nombre de la tienda
+  --salida FICHERO             si no se indica, la salida estándar; con varios informes se añade el nombre de la tienda, salvo
+                               que sea una tubería o un dispositivo
   --listados CARPETA           conserva en CARPETA la base de datos de listados con la que se ha trabajado
   --hoy AAAA-MM-DD             la fecha del sistema; si no se indica, la del equipo
 
@@ -41,6 +44,8 @@ Opciones:
   --datos CARPETA              carpeta de las bases de datos; si no se indica, "datos" junto al programa
   --regional NOMBRE            configuración regional, por ejemplo es_ES; si no se indica, la del equipo
   -h, --ayuda, --help          muestra esta ayuda
+
+Los avisos salen por la salida de errores, también "No hay datos para ser mostrados." por cada informe sin datos.
 
 Estado de salida: 0 hecho, 1 error (su número y su descripción salen por la salida de errores), 2 uso incorrecto, 3 ningún
 informe tenía datos.

@@ -41,6 +41,7 @@ int conSalidaEstandar(QStringView programa, const TrabajoConSalida& trabajo)
         diMotivo(programa, errores, u"está cerrada"_s);
         return EstadoDeFallo;
     }
+    rehusaTuberiasRotas();
     return conSalida(programa, salida, errores, trabajo);
 }
 

@@ -5,6 +5,7 @@
 #ifdef Q_OS_WIN
 #include <io.h>
 #else
+#include <csignal>
 #include <fcntl.h>
 #include <unistd.h>
 #endif
@@ -26,6 +27,13 @@ bool estaAbierto(std::FILE* fichero)
     return _fileno(fichero) >= 0;
 #else
     return fcntl(fileno(fichero), F_GETFD) != -1;
+#endif
+}
+
+void rehusaTuberiasRotas()
+{
+#ifndef Q_OS_WIN
+    std::signal(SIGPIPE, SIG_IGN);
 #endif
 }
 

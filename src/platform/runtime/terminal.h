@@ -10,4 +10,7 @@ namespace kestrane {
 /// False when the stream `fichero` was closed by whoever started the program.
 [[nodiscard]] bool estaAbierto(std::FILE* fichero);
 
+/// From now on a pipe whose reader is gone refuses what is written, in place of ending the program without a word.
+void rehusaTuberiasRotas();
+
 } // namespace kestrane

@@ -1,13 +1,17 @@
 #include "platform/runtime/salida_estandar.h"
 
+#include "platform/runtime/terminal.h"
+
 #include <gtest/gtest.h>
 
 #include <QBuffer>
 #include <QFile>
 #include <QTemporaryFile>
 
+#include <array>
 #include <new>
 #include <stdexcept>
+#include <unistd.h>
 
 namespace kestrane {
 namespace {
@@ -46,6 +50,23 @@ TEST_F(SalidaEstandar, AnOutputThatDoesNotTakeAllIsASentenceAndAFailure)
                     }),
               EstadoDeFallo);
     EXPECT_EQ(m_errores.data(), "prueba: no se puede escribir en la salida estándar (no queda sitio en el disco).\n");
+}
+
+TEST_F(SalidaEstandar, APipeThatNobodyReadsIsASentenceAndAFailure)
+{
+    rehusaTuberiasRotas();
+    std::array<int, 2> extremos{};
+    ASSERT_EQ(pipe(extremos.data()), 0);
+    close(extremos[0]);
+    QFile tubo;
+    ASSERT_TRUE(tubo.open(extremos[1], QIODevice::WriteOnly, QFile::AutoCloseHandle));
+    EXPECT_EQ(corre(tubo,
+                    [](QIODevice& salida, QIODevice&) {
+                        salida.write("una línea\n");
+                        return 0;
+                    }),
+              EstadoDeFallo);
+    EXPECT_EQ(m_errores.data(), "prueba: no se puede escribir en la salida estándar (nadie lee la salida).\n");
 }
 
 TEST_F(SalidaEstandar, AnyExceptionIsASentenceAndAFailure)
