@@ -87,10 +87,10 @@ struct CasoEjecucion
 
 constexpr CasoEjecucion CasosPostgreSql[] = {
     {u"08", Categoria::ConexionPerdida}, {u"57P", Categoria::ConexionPerdida}, {u"55P03", Categoria::Ocupada},
-    {u"57014", Categoria::Ocupada},      {u"40", Categoria::Ocupada},          {u"23", Categoria::Restriccion},
-    {u"22001", Categoria::Restriccion},  {u"22003", Categoria::Restriccion},   {u"42501", Categoria::SoloLectura},
-    {u"25006", Categoria::SoloLectura},  {u"53", Categoria::SinSitio},         {u"58", Categoria::Danada},
-    {u"XX001", Categoria::Danada},       {u"XX002", Categoria::Danada},
+    {u"55006", Categoria::Ocupada},      {u"57014", Categoria::Ocupada},       {u"40", Categoria::Ocupada},
+    {u"23", Categoria::Restriccion},     {u"22001", Categoria::Restriccion},   {u"22003", Categoria::Restriccion},
+    {u"42501", Categoria::SoloLectura},  {u"25006", Categoria::SoloLectura},   {u"53", Categoria::SinSitio},
+    {u"58", Categoria::Danada},          {u"XX001", Categoria::Danada},        {u"XX002", Categoria::Danada},
 };
 
 struct CasoNativo
@@ -107,6 +107,9 @@ constexpr CasoNativo CasosMariaDb[] = {
     {1927, Categoria::ConexionPerdida}, // killed
     {1205, Categoria::Ocupada},         // lock wait timeout
     {1213, Categoria::Ocupada},         // deadlock
+    {1020, Categoria::Ocupada},         // changed meanwhile
+    {1317, Categoria::Ocupada},         // interrupted
+    {1969, Categoria::Ocupada},         // took longer than the server lets it
     {1062, Categoria::Restriccion},     // unique key
     {1048, Categoria::Restriccion},     // Null
     {1364, Categoria::Restriccion},     // no default

@@ -23,6 +23,8 @@ struct Caso
 constexpr Caso Casos[] = {
     {SQLITE_BUSY, Categoria::Ocupada,
      u"La base de datos \"%1\" está bloqueada por otro programa. Espere a que termine o ciérrelo, y repita la operación."},
+    {SQLITE_PROTOCOL, Categoria::Ocupada,
+     u"La base de datos \"%1\" está bloqueada por otro programa. Espere a que termine o ciérrelo, y repita la operación."},
     {SQLITE_LOCKED, Categoria::Ocupada,
      u"La base de datos \"%1\" está bloqueada por otra operación de este programa. Repita la operación."},
     {SQLITE_READONLY, Categoria::SoloLectura,

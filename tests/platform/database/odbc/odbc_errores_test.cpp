@@ -71,6 +71,7 @@ TEST(OdbcErroresAlEjecutar, PostgreSqlIsReadByItsState)
     expect(u"08S01"_s, Categoria::ConexionPerdida);
     expect(u"57P01"_s, Categoria::ConexionPerdida);
     expect(u"55P03"_s, Categoria::Ocupada);
+    expect(u"57014"_s, Categoria::Ocupada);
     expect(u"40P01"_s, Categoria::Ocupada);
     expect(u"23505"_s, Categoria::Restriccion);
     expect(u"22001"_s, Categoria::Restriccion);
@@ -88,6 +89,7 @@ TEST(OdbcErroresAlEjecutar, MariaDbIsReadByItsNumber)
     expect(2006, Categoria::ConexionPerdida);
     expect(2013, Categoria::ConexionPerdida);
     expect(1205, Categoria::Ocupada);
+    expect(1317, Categoria::Ocupada);
     expect(1213, Categoria::Ocupada);
     expect(1062, Categoria::Restriccion);
     expect(1406, Categoria::Restriccion);

@@ -1,5 +1,7 @@
 #include "platform/database/odbc/odbc_recursos.h"
 
+#include "platform/database/error_motor.h"
+
 #include <gtest/gtest.h>
 
 #include <sqlucode.h>
@@ -8,6 +10,18 @@ namespace kestrane::database::odbc {
 namespace {
 
 using namespace Qt::StringLiterals;
+
+TEST(OdbcRecursos, WithoutAHandleToBeHadTheErrorIsTheOperators)
+{
+    try {
+        const ManejadorConexion sinEntorno{nullptr};
+        FAIL();
+    } catch (const ErrorMotor& error) {
+        EXPECT_EQ(error.numero(), ErrorEjecucion::ConexionImposible);
+        EXPECT_TRUE(error.descripcion().contains(u"ODBC"));
+    }
+    EXPECT_EQ(ManejadorConexion::intenta(nullptr).get(), nullptr);
+}
 
 TEST(OdbcRecursos, AHandleThatWasMovedFromHoldsNothing)
 {

@@ -21,6 +21,7 @@ TEST(SqliteErrores, CodesThatAnOperatorCanActOnSayWhatWhereAndHow)
 {
     for (const auto& [codigo, categoria, consejo] : {std::tuple{SQLITE_BUSY, Categoria::Ocupada, u"Espere"_s},
                                                      {SQLITE_BUSY_RECOVERY, Categoria::Ocupada, u"Espere"_s},
+                                                     {SQLITE_PROTOCOL, Categoria::Ocupada, u"Espere"_s},
                                                      {SQLITE_READONLY, Categoria::SoloLectura, u"permiso"_s},
                                                      {SQLITE_READONLY_DIRECTORY, Categoria::SoloLectura, u"permiso"_s},
                                                      {SQLITE_CANTOPEN, Categoria::SoloLectura, u"Compruebe"_s},
