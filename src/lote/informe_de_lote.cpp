@@ -56,6 +56,7 @@ public:
         ejecuta();
         m_salida.termina();
         m_contexto.ConexionListados.Close();
+        m_datos.termina();
         entrega();
         m_copia.conserva();
         return m_salida.sinDatos() ? SalidaSinDatos : SalidaBien;

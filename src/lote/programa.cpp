@@ -65,6 +65,7 @@ bool ejecutaSql(const Opciones& opciones, EntornoDatos& datos, const EntornoDeLo
     const bool bien = opciones.trabajo == Opciones::Trabajo::Sql ? ejecutaSentencia(consola, opciones.texto, avisos)
                                                                  : ejecutaFichero(consola, opciones.texto, avisos);
     conexion.Close();
+    datos.termina();
     return bien;
 }
 

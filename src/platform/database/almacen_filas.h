@@ -31,7 +31,7 @@ struct Celda
 
 private:
     template<class T>
-    T lee() const
+    [[nodiscard]] T lee() const
     {
         T valor;
         std::memcpy(&valor, datos, sizeof valor);
@@ -83,7 +83,7 @@ private:
 class AlmacenFilas
 {
 public:
-    static constexpr qsizetype LimitePorDefecto = 4 * 1024 * 1024;
+    static constexpr qsizetype LimitePorDefecto = qsizetype{4} * 1024 * 1024;
 
     explicit AlmacenFilas(int columnas, qsizetype limite = LimitePorDefecto);
     ~AlmacenFilas();

@@ -20,6 +20,7 @@ public:
     /// Converts by the column's type and the regional settings and keeps it for Update. Error 13 or 6 when it cannot be converted,
     /// -2147217900 for a Null or a text that the column does not take.
     Campo& operator=(const Valor& valor);
+    // NOLINTNEXTLINE(cert-oop54-cpp): written to itself it is written too
     Campo& operator=(const Campo& otro) { return *this = otro.valor(); }
 
     // The readers of Valor.

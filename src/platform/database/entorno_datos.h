@@ -37,12 +37,12 @@ struct OpcionesDatos
     QString dsnListados = QStringLiteral("ListKestrane");
     /// How long a statement waits for another program that has the database locked.
     std::chrono::milliseconds espera{5000};
-    qsizetype limiteFilas = AlmacenFilas::LimitePorDefecto; ///< bytes of one result held in memory
-    int formas = 1000;                                      ///< statement shapes kept ready per connection
-    qsizetype bytesFormas = 8 * 1024 * 1024;                ///< and the bytes of their texts
-    int filasPorEnvio = 500;                                ///< added rows that are gathered before they are sent
-    qsizetype bytesRecordados = 16 * 1024 * 1024;           ///< answers remembered during one report
-    int clavesPorLote = 200;                                ///< keys of one read-ahead statement
+    qsizetype limiteFilas = AlmacenFilas::LimitePorDefecto;  ///< bytes of one result held in memory
+    int formas = 1000;                                       ///< statement shapes kept ready per connection
+    qsizetype bytesFormas = qsizetype{8} * 1024 * 1024;      ///< and the bytes of their texts
+    int filasPorEnvio = 500;                                 ///< added rows that are gathered before they are sent
+    qsizetype bytesRecordados = qsizetype{16} * 1024 * 1024; ///< answers remembered during one report
+    int clavesPorLote = 200;                                 ///< keys of one read-ahead statement
     /// Opens an engine; when empty, the machine's ODBC set-up decides and else the embedded file.
     std::function<std::unique_ptr<MotorBase>(const DestinoConexion&)> abreMotor;
 };

@@ -52,7 +52,7 @@ void Recordset::Close()
 
 void Recordset::suelta() noexcept
 {
-    if (!m_plan)
+    if (!m_sesion)
         return;
     m_sesion->retiraAnuncios(this);
     if (m_cursor)

@@ -38,7 +38,7 @@ public:
 
     /// Opens the query `texto`, or all of a table when it is one name. An open recordset is closed first. Error -2147217900 when
     /// the statement or the database refuses it.
-    void Open(const QString& texto, Conexion& conexion, CursorType cursor = CursorType::Static,
+    void Open(const QString& texto, Conexion& conexion, CursorType tipo = CursorType::Static,
               LockType bloqueo = LockType::Optimistic);
     /// Harmless on a closed recordset. A row that was begun and not updated is dropped.
     void Close();
