@@ -18,7 +18,7 @@ namespace kestrane::catalogue {
 /// A group of the menu.
 struct GrupoMenu
 {
-    Grupo grupo;
+    Grupo grupo = Grupo::Ninguno;
     QStringView control; ///< name of its frame
     QStringView titulo;
 };

@@ -141,26 +141,32 @@ void Ejecutor::construyeYMuestra(const FilaCatalogo& fila)
     const OpcionConstructor* const opcion = primera(fila.constructores, m_contexto);
     if (!opcion)
         return;
-    enAmbito(opcion->constructor);
+    construye(opcion->constructor);
     m_pantalla.salida.DrenaEventos();
     m_pantalla.salida.DrenaEventos();
     if (const Diseno* const diseno = primera(fila.disenos, m_contexto))
         muestra(*diseno);
 }
 
-/// Runs a builder or collector while the shop connection may remember its answers. Nothing else is in that scope: no drained event,
-/// no window.
-template<class Resultado>
-Resultado Ejecutor::enAmbito(Resultado (*trabajo)(Listados&))
+/// While the builder runs the shop connection may remember its answers. Nothing else is in that scope: no drained event, no window.
+void Ejecutor::construye(Constructor constructor)
 {
     Listados listados{m_contexto, m_pantalla.progreso, m_reloj};
     const auto ambito = m_contexto.ConexionTienda.EmpiezaInforme();
-    return trabajo(listados);
+    constructor(listados);
+}
+
+/// The same for a chart.
+MatrizGrafico Ejecutor::recoge(Recolector recolector)
+{
+    Listados listados{m_contexto, m_pantalla.progreso, m_reloj};
+    const auto ambito = m_contexto.ConexionTienda.EmpiezaInforme();
+    return recolector(listados);
 }
 
 void Ejecutor::muestraGrafico(const OpcionGrafico& grafico)
 {
-    m_pantalla.salida.MostrarGrafico(grafico.nombre.toString(), [this, &grafico] { return enAmbito(grafico.recolector); });
+    m_pantalla.salida.MostrarGrafico(grafico.nombre.toString(), [this, &grafico] { return recoge(grafico.recolector); });
 }
 
 void Ejecutor::muestra(const Diseno& diseno)

@@ -29,8 +29,8 @@ private:
     void porCadaTienda(const FilaCatalogo& fila);
     void unaVez(const FilaCatalogo& fila);
     void construyeYMuestra(const FilaCatalogo& fila);
-    template<class Resultado>
-    Resultado enAmbito(Resultado (*trabajo)(Listados&));
+    void construye(Constructor constructor);
+    [[nodiscard]] MatrizGrafico recoge(Recolector recolector);
     void muestraGrafico(const OpcionGrafico& grafico);
     void muestra(const Diseno& diseno);
 
