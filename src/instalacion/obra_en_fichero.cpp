@@ -95,7 +95,7 @@ void ObraEnFichero::noSeEscribe(const QString& motivo) const
 
 void ObraEnFichero::haceCarpeta()
 {
-    QString carpeta = QFileInfo{m_ruta}.absolutePath();
+    const QString carpeta = QFileInfo{m_ruta}.absolutePath();
     for (QString falta = carpeta; !QFileInfo::exists(falta); falta = QFileInfo{falta}.absolutePath())
         m_carpetasNuevas += falta;
     std::error_code error;

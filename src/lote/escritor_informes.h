@@ -33,7 +33,7 @@ public:
 };
 
 /// Bytes that are held before they go out.
-inline constexpr qsizetype TrozoDeSalida = 64 * 1024;
+inline constexpr qsizetype TrozoDeSalida = qsizetype{64} * 1024;
 
 /// Writes all of `bytes` and empties it. ErrorDeSalida.
 void vuelca(QByteArray& bytes, QIODevice& destino);
