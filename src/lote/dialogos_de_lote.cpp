@@ -1,7 +1,6 @@
 #include "lote/dialogos_de_lote.h"
 
 #include "lote/peticion_imposible.h"
-#include "pipeline/catalogue/condiciones.h"
 #include "pipeline/sabores.h"
 #include "platform/database/recordset.h"
 
@@ -39,16 +38,6 @@ QString tituloDeClase(const QString& clase)
     if (clase == u"CI")
         return u"LISTADO X TIPO DE PRODUCTOS = Productos de Consumo Interno"_s;
     return clase == u"A" ? u"LISTADO X TIPO DE PRODUCTOS = Ambos"_s : u"LISTADO X TIPO DE PRODUCTOS = Todos"_s;
-}
-
-const QString* tiendaLlamada(const ContextoEjecucion& contexto, const QString& tienda, Qt::CaseSensitivity mayusculas)
-{
-    const int ultima = contexto.Tiendas.reservado() ? contexto.Tiendas.limiteSuperior() - 1 : 0;
-    for (int indice = 1; indice <= ultima; ++indice) {
-        if (contexto.Tiendas[indice].Texto.compare(tienda, mayusculas) == 0)
-            return &contexto.Tiendas[indice].Texto;
-    }
-    return nullptr;
 }
 
 } // namespace
@@ -270,24 +259,6 @@ DialogosDeLote::Eleccion DialogosDeLote::elige(Respuesta respuesta, const Panel&
             return {codigo, nombre.esNulo() ? QString{} : nombre.texto()};
     }
     noOfrece(QString::number(codigo));
-}
-
-void eligeTienda(ContextoEjecucion& contexto, const QString& tienda)
-{
-    if (tienda.isEmpty() || tienda.compare(u"Todas"_s, Qt::CaseInsensitive) == 0) {
-        contexto.TiendaSeleccionada.clear();
-        return;
-    }
-    if (!catalogue::enServidor(contexto)) {
-        contexto.TiendaSeleccionada = tienda;
-        return;
-    }
-    const QString* elegida = tiendaLlamada(contexto, tienda, Qt::CaseSensitive);
-    if (!elegida)
-        elegida = tiendaLlamada(contexto, tienda, Qt::CaseInsensitive);
-    if (!elegida)
-        throw PeticionImposible{u"El servidor no tiene ninguna tienda \"%1\"."_s.arg(tienda)};
-    contexto.TiendaSeleccionada = *elegida;
 }
 
 } // namespace kestrane::lote

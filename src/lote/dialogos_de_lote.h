@@ -55,8 +55,4 @@ private:
     const Reloj& m_reloj;
 };
 
-/// Chooses a store as a press on its panel does; "Todas" and "" are all of them. PeticionImposible on the server when it is none of
-/// its stores.
-void eligeTienda(ContextoEjecucion& contexto, const QString& tienda);
-
 } // namespace kestrane::lote

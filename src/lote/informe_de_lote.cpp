@@ -7,6 +7,7 @@
 #include "lote/informes_csv.h"
 #include "lote/informes_json.h"
 #include "lote/pantalla_de_lote.h"
+#include "lote/tienda_elegida.h"
 #include "pipeline/catalogue/catalogo.h"
 #include "pipeline/catalogue/ejecutor.h"
 #include "platform/suite/preferencias_en_tabla.h"
