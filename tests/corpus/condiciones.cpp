@@ -36,11 +36,38 @@ constexpr std::array Numeros = {u"0",           u"1", u"3", u"-2", u"20.5", u"--
 constexpr std::array Textos = {u"'Centro'", u"'CENTRO'", u"'peñíscola'", u"''", u"'DV'", u"'gran centro'", u"'a' & 'b'"};
 constexpr std::array Patrones = {u"'%'", u"'%centro'", u"'C%'", u"'%ñ%'", u"'_entro'", u"''"};
 constexpr std::array Fechas = {u"#03/15/2024#", u"#03/01/2024#", u"#12/30/1899#", u"#04/02/2024#"};
+constexpr std::array Banderas = {u"true", u"false", u"-1", u"0", u"1"};
+constexpr std::array Funciones = {u"year", u"month", u"day"};
+constexpr std::array Partes = {u"3", u"15", u"2024", u"null", u"pago", u"month(fecha)"};
+constexpr std::array Consultas = {u"select codigo from clientes where borrar = 0",
+                                  u"select codigo from clientes where tienda like '%o'", u"select num_factura from detalle_factura",
+                                  u"select null from clientes",
+                                  u"select clientes.codigo from clientes where clientes.tienda = cabecera_factura.tienda"};
 constexpr std::array Negaciones = {u"", u"not "};
+
+/// Null as a literal, flags, functions and sub-queries.
+QString rara(Sorteo& sorteo)
+{
+    switch (sorteo.hasta(6)) {
+    case 0:
+        return sorteo.uno(NumerosDeTabla) + u' ' + sorteo.uno(Comparaciones) + u" null"_s;
+    case 1:
+        return sorteo.uno(TextosDeTabla) + u" <> null"_s;
+    case 2:
+        return u"impuestoincluido "_s + sorteo.uno(Comparaciones) + u' ' + sorteo.uno(Banderas);
+    case 3:
+        return sorteo.uno(Funciones) + u'(' + sorteo.uno(FechasDeTabla) + u") "_s + sorteo.uno(Comparaciones) + u' ' +
+               sorteo.uno(Partes);
+    case 4:
+        return sorteo.uno(NumerosDeTabla) + u' ' + sorteo.uno(Negaciones) + u"in ("_s + sorteo.uno(Consultas) + u')';
+    default:
+        return sorteo.uno(NumerosDeTabla) + u" \\ 2 "_s + sorteo.uno(Comparaciones) + u' ' + sorteo.uno(Numeros);
+    }
+}
 
 QString simple(Sorteo& sorteo)
 {
-    switch (sorteo.hasta(8)) {
+    switch (sorteo.hasta(11)) {
     case 0:
         return sorteo.uno(NumerosDeTabla) + u' ' + sorteo.uno(Comparaciones) + u' ' + sorteo.uno(Numeros);
     case 1:
@@ -57,6 +84,10 @@ QString simple(Sorteo& sorteo)
         return sorteo.uno(TextosDeTabla) + u' ' + sorteo.uno(Negaciones) + u"like "_s + sorteo.uno(Patrones);
     case 6:
         return sorteo.uno(TextosDeTabla) + u" is "_s + sorteo.uno(Negaciones) + u"null"_s;
+    case 7:
+    case 8:
+    case 9:
+        return rara(sorteo);
     default:
         return sorteo.uno(NumerosDeTabla) + u" is "_s + sorteo.uno(Negaciones) + u"null"_s;
     }
@@ -66,7 +97,10 @@ QString condicion(Sorteo& sorteo, int fondo)
 {
     if (fondo == 0)
         return simple(sorteo);
-    switch (sorteo.hasta(4)) {
+    switch (sorteo.hasta(5)) {
+    case 3:
+        return u'(' + condicion(sorteo, fondo - 1) + u") "_s + sorteo.uno(Comparaciones) + u" ("_s + condicion(sorteo, fondo - 1) +
+               u')';
     case 0:
         return u"not ("_s + condicion(sorteo, fondo - 1) + u')';
     case 1:

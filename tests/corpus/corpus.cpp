@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFile>
 
+#include <algorithm>
 #include <stdexcept>
 
 using namespace Qt::StringLiterals;
@@ -67,11 +68,22 @@ std::vector<SentenciaCorpus> sentenciasDe(const std::string& area)
         if (esComentario(lineas[i]))
             continue;
         sentencias.push_back(leeCabeza(lineas[i]));
+        sentencias.back().area = QString::fromStdString(area);
         if (++i == lineas.size())
             throw std::runtime_error{"corpus: " + area + " ends behind a head"};
         sentencias.back().texto = lote::sinEscapes(lineas[i]);
     }
     return sentencias;
+}
+
+std::vector<SentenciaCorpus> todasLasSentencias()
+{
+    std::vector<SentenciaCorpus> todas;
+    for (const std::string& area : areasDelCorpus()) {
+        auto suyas = sentenciasDe(area);
+        std::ranges::move(suyas, std::back_inserter(todas));
+    }
+    return todas;
 }
 
 std::vector<QString> altasDe(SentenciaCorpus::Base base)

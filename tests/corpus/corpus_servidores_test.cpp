@@ -2,6 +2,8 @@
 
 #include "corpus/condiciones.h"
 #include "corpus/corpus.h"
+#include "corpus/esperadas.h"
+#include "corpus/frontera.h"
 #include "corpus/tienda_corpus.h"
 
 #include <gtest/gtest.h>
@@ -63,6 +65,45 @@ TEST(CondicionesEnServidores, GeneratedConditionsChooseTheSameRowsOnTheThreeEngi
         }
     }
 }
+
+class EnCadaServidor : public testing::TestWithParam<jet::Motor>
+{
+};
+
+TEST_P(EnCadaServidor, TheRowsAreThoseWorkedOutByHand)
+{
+    TiendaCorpus tienda{GetParam(), TiendaCorpus::Contenido::Llena};
+    for (const Esperada& esperada : respuestasEsperadas()) {
+        const Respuesta respuesta = tienda.ejecuta(consultaDe(esperada.sentencia));
+        EXPECT_EQ(respuesta.error, "") << esperada.sentencia.toStdString();
+        EXPECT_EQ(respuesta.filas, esperada.filas) << esperada.sentencia.toStdString();
+    }
+}
+
+TEST_P(EnCadaServidor, TheLargestStatementOfEachFormRunsAndTheNextIsRefused)
+{
+    TiendaCorpus sqlite{jet::Motor::Sqlite, TiendaCorpus::Contenido::Llena};
+    TiendaCorpus tienda{GetParam(), TiendaCorpus::Contenido::Llena};
+    for (const FormaDeSentencia& forma : formasDeSentencia()) {
+        const Frontera frontera = fronteraDe(forma, sqlite);
+        const Respuesta respuesta = respuestaDe(forma, frontera.mayor, tienda);
+        EXPECT_EQ(respuesta.error.substr(0, 500), "") << forma.nombre << ' ' << frontera.mayor;
+        EXPECT_EQ(respuesta.filas, frontera.respuesta.filas) << forma.nombre;
+        EXPECT_EQ(respuestaDe(forma, frontera.mayor + 1, tienda).error, frontera.rechazo) << forma.nombre;
+    }
+}
+
+TEST_P(EnCadaServidor, WhatNoEngineCanFinishFailsAlike)
+{
+    TiendaCorpus tienda{GetParam(), TiendaCorpus::Contenido::Llena};
+    for (const Fallida& fallida : sentenciasQueFallan()) {
+        const std::string error = tienda.ejecuta(consultaDe(fallida.sentencia)).error;
+        EXPECT_TRUE(error.starts_with("ERROR -2147217900: ")) << fallida.sentencia.toStdString() << ": " << error;
+        EXPECT_NE(error.find(fallida.motivo), std::string::npos) << fallida.sentencia.toStdString() << ": " << error;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Servidores, EnCadaServidor, testing::Values(jet::Motor::PostgreSql, jet::Motor::MariaDb));
 
 INSTANTIATE_TEST_SUITE_P(Areas, CorpusEnServidores, testing::ValuesIn(areasDelCorpus()),
                          [](const auto& area) { return area.param; });

@@ -1,5 +1,6 @@
 #include "corpus/corpus.h"
 
+#include "corpus/esperadas.h"
 #include "corpus/tienda_corpus.h"
 
 #include <gtest/gtest.h>
@@ -41,6 +42,26 @@ TEST_P(Corpus, WhatIsRefusedIsRefusedBeforeTheEngineRunsItOnEmptyTablesToo)
             EXPECT_TRUE(error.starts_with("ERROR -2147217900: ")) << sentencia.nombre.toStdString() << ": " << error;
             EXPECT_EQ(tienda->ejecucionesDelMotor(), antes) << sentencia.nombre.toStdString();
         }
+    }
+}
+
+TEST(RespuestasEsperadas, TheRowsAreThoseWorkedOutByHand)
+{
+    TiendaCorpus tienda{jet::Motor::Sqlite, TiendaCorpus::Contenido::Llena};
+    for (const Esperada& esperada : respuestasEsperadas()) {
+        const Respuesta respuesta = tienda.ejecuta(consultaDe(esperada.sentencia));
+        EXPECT_EQ(respuesta.error, "") << esperada.sentencia.toStdString();
+        EXPECT_EQ(respuesta.filas, esperada.filas) << esperada.sentencia.toStdString();
+    }
+}
+
+TEST(RespuestasEsperadas, WhatNoEngineCanFinishFailsAlike)
+{
+    TiendaCorpus tienda{jet::Motor::Sqlite, TiendaCorpus::Contenido::Llena};
+    for (const Fallida& fallida : sentenciasQueFallan()) {
+        const std::string error = tienda.ejecuta(consultaDe(fallida.sentencia)).error;
+        EXPECT_TRUE(error.starts_with("ERROR -2147217900: ")) << fallida.sentencia.toStdString() << ": " << error;
+        EXPECT_NE(error.find(fallida.motivo), std::string::npos) << fallida.sentencia.toStdString() << ": " << error;
     }
 }
 

@@ -1,4 +1,5 @@
 #include "platform/jet/binder_interno.h"
+#include "platform/jet/limites.h"
 #include "platform/jet/rechazo.h"
 
 #include <algorithm>
@@ -25,10 +26,8 @@ int anchoDe(const Expresion& expresion, const std::vector<const Tabla*>& tablas)
     const auto ancho = [&](enlazado::Columna c) {
         return tablas[static_cast<size_t>(c.fuente)]->columnas[static_cast<size_t>(c.columna)].ancho;
     };
-    if (const auto* columna = std::get_if<enlazado::Columna>(&expresion.dato))
+    if (const enlazado::Columna* columna = columnaMostrada(expresion))
         return ancho(*columna);
-    if (const auto* grafia = std::get_if<PrimeraGrafia>(&expresion.dato))
-        return ancho(grafia->columna);
     const auto* agregado = std::get_if<Agregado>(&expresion.dato);
     const bool muestraUno =
         agregado && (agregado->funcion == FuncionAgregada::Maximo || agregado->funcion == FuncionAgregada::Minimo);
@@ -44,11 +43,34 @@ OrdenFinal ordenFinal(const Consulta& consulta, bool agrupada, UsoDeConsulta uso
     return agrupada ? OrdenFinal::PorGrupos : OrdenFinal::PorFilas;
 }
 
+/// The parser has counted what is written; `*` gives more.
+void compruebaCuantas(size_t columnas, ast::Lugar lugar)
+{
+    if (columnas > static_cast<size_t>(limites::ElementosDeLista))
+        throw Rechazo{{ErrorSql::Clase::DemasiadoLargo,
+                       u"El resultado tiene demasiadas columnas: caben %1."_s.arg(limites::ElementosDeLista), lugar.posicion,
+                       lugar.longitud}};
+}
+
+/// MariaDB cannot limit a sub-query of IN that looks outside; the others could.
+void compruebaLimite(const Consulta& consulta, int primeraTabla, ast::Lugar lugar)
+{
+    const auto esDeFuera = [&](const Expresion& e) {
+        const enlazado::Columna* columna = columnaMostrada(e);
+        return columna && columna->fuente < primeraTabla;
+    };
+    if (consulta.limite && alguna(consulta, esDeFuera))
+        throw Rechazo{{ErrorSql::Clase::SentenciaNoAdmitida,
+                       u"Una consulta de IN que lleva TOP no puede usar columnas de la consulta de fuera."_s, lugar.posicion,
+                       lugar.longitud}};
+}
+
 } // namespace
 
 Consulta Binder::consulta(const ast::Consulta& leida, const Ambito* fuera, UsoDeConsulta uso)
 {
     Consulta destino;
+    const int primeraTabla = static_cast<int>(m_tablas.size());
     Ambito ambito{m_tablas, fuera};
     for (const ast::FuentePtr& una : leida.desde)
         destino.desde.push_back(fuente(*una, ambito));
@@ -65,6 +87,7 @@ Consulta Binder::consulta(const ast::Consulta& leida, const Ambito* fuera, UsoDe
         compruebaOrdenPosible(destino, leida.lugar);
     if (uso == UsoDeConsulta::Resultado && !agrupada)
         agrupaDistintas(destino, m_tablas);
+    compruebaLimite(destino, primeraTabla, leida.lugar);
     return destino;
 }
 
@@ -77,7 +100,7 @@ bool Binder::enlazaCuerpo(const ast::Consulta& leida, const Ambito& ambito, UsoD
     if (leida.donde)
         destino.donde = condicion(*leida.donde, sinAgregados(ambito, u"en WHERE"));
     destino.grupos = grupos(leida, ambito);
-    bool hayAgregados = leida.teniendo != nullptr;
+    bool hayAgregados = false;
     Contexto contexto{.ambito = &ambito, .hayAgregados = &hayAgregados, .sinAgregados = {}, .grupos = nullptr, .aliases = nullptr};
     if (uso == UsoDeConsulta::Resultado)
         contexto.grupos = &destino.grupos;
@@ -88,7 +111,12 @@ bool Binder::enlazaCuerpo(const ast::Consulta& leida, const Ambito& ambito, UsoD
     contexto.aliases = &leida;
     for (const ast::ClaveDeOrden& una : leida.orden)
         destino.orden.push_back(clave(una, contexto, destino));
-    return hayAgregados || !destino.grupos.empty();
+    const bool agrupada = hayAgregados || !destino.grupos.empty();
+    if (leida.teniendo && !agrupada)
+        throw Rechazo{{ErrorSql::Clase::AgrupacionIncorrecta,
+                       u"HAVING necesita GROUP BY o una función de grupo: para elegir filas use WHERE."_s,
+                       leida.teniendo->lugar.posicion, leida.teniendo->lugar.longitud}};
+    return agrupada;
 }
 
 /// Groups, sort keys and what they may use.
@@ -103,6 +131,7 @@ void Binder::compruebaReglas(const Consulta& consulta, bool agrupada) const
     for (const Clave& clave : consulta.orden) {
         if (!clave.expresion)
             continue;
+        compruebaQueVarie(*clave.expresion);
         if (agrupada)
             compruebaAgrupacion(*clave.expresion, consulta);
         else
@@ -143,12 +172,12 @@ std::vector<ExpresionPtr> Binder::grupos(const ast::Consulta& leida, const Ambit
     std::vector<ExpresionPtr> destino;
     for (const ast::ExpresionPtr& grupo : leida.grupos) {
         ExpresionPtr enlazada = valor(*grupo, sinAgregados(ambito, u"en GROUP BY"));
-        const auto esFija = [](const Expresion& e) { return e.esParametro(); };
+        const auto esFija = [](const Expresion& e) { return e.esParametro() || std::holds_alternative<EnConsulta>(e.dato); };
         const auto esColumna = [](const Expresion& e) { return std::holds_alternative<enlazado::Columna>(e.dato); };
         if (alguna(*enlazada, esFija) || !alguna(*enlazada, esColumna))
             throw Rechazo{{ErrorSql::Clase::AgrupacionIncorrecta,
-                           u"GROUP BY solo admite columnas y funciones de columnas, sin valores fijos."_s, grupo->lugar.posicion,
-                           grupo->lugar.longitud}};
+                           u"GROUP BY solo admite columnas y funciones de columnas, sin valores fijos ni consultas."_s,
+                           grupo->lugar.posicion, grupo->lugar.longitud}};
         destino.push_back(std::move(enlazada));
     }
     return destino;
@@ -162,6 +191,7 @@ void Binder::expandeLista(const ast::Consulta& leida, const Contexto& contexto, 
             expandeAsterisco(*asterisco, elemento.lugar, contexto, destino);
         else
             destino.lista.push_back(salida(std::get<ast::ElementoExpresion>(elemento.dato), contexto, sinNombre));
+        compruebaCuantas(destino.lista.size(), elemento.lugar);
     }
 }
 
@@ -187,13 +217,9 @@ Salida Binder::salida(const ast::ElementoExpresion& elemento, const Contexto& co
     salida.nombre = elemento.alias;
     if (!salida.nombre.isEmpty())
         return salida;
-    enlazado::Columna mostrada{-1, -1};
-    if (const auto* columna = std::get_if<enlazado::Columna>(&salida.expresion->dato))
-        mostrada = *columna;
-    else if (const auto* grafia = std::get_if<PrimeraGrafia>(&salida.expresion->dato))
-        mostrada = grafia->columna;
-    salida.nombre = mostrada.fuente >= 0 ? tablaDe(mostrada.fuente).columnas[static_cast<size_t>(mostrada.columna)].nombre
-                                         : u"Expr%1"_s.arg(sinNombre++);
+    const enlazado::Columna* mostrada = columnaMostrada(*salida.expresion);
+    salida.nombre =
+        mostrada ? tablaDe(mostrada->fuente).columnas[static_cast<size_t>(mostrada->columna)].nombre : u"Expr%1"_s.arg(sinNombre++);
     return salida;
 }
 

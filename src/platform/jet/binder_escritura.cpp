@@ -1,4 +1,5 @@
 #include "platform/jet/binder_interno.h"
+#include "platform/jet/medida.h"
 #include "platform/jet/rechazo.h"
 
 #include <algorithm>
@@ -64,6 +65,7 @@ Sentencia Binder::enlaza(const ast::Sentencia& leida)
     Sentencia enlazada;
     enlazada.dato = std::visit([this](const auto& s) -> decltype(Sentencia::dato) { return sentencia(s); }, leida);
     enlazada.tablas = std::move(m_tablas);
+    compruebaMedida(enlazada);
     return enlazada;
 }
 

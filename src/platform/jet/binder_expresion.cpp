@@ -224,7 +224,10 @@ ExpresionPtr Binder::enlazaDato(const ast::EnConsulta& dato, ast::Lugar lugar, c
         throw Rechazo{{ErrorSql::Clase::SintaxisIncorrecta,
                        u"La consulta de IN ha de dar una sola columna y da %1."_s.arg(dentro->lista.size()),
                        dato.consulta->lugar.posicion, dato.consulta->lugar.longitud}};
-    const Familia familia = equipara({&izquierda, &dentro->lista.front().expresion});
+    ExpresionPtr& dada = dentro->lista.front().expresion;
+    const Familia familia = equipara({&izquierda, &dada});
+    if (dada->esNulo())
+        dada->tipo = izquierda->tipo;
     return nodo(EnConsulta{dato.sentido, familia, std::move(izquierda), std::move(dentro)}, TipoColumna::SiNo, lugar);
 }
 

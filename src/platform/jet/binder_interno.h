@@ -104,6 +104,8 @@ enlazado::Familia equipara(std::span<enlazado::ExpresionPtr* const> valores);
 
 /// Refuses a column of the query that is neither a group's nor inside an aggregate.
 void compruebaAgrupacion(const enlazado::Expresion& expresion, const enlazado::Consulta& consulta);
+/// Refuses a sort key that is the same for all rows.
+void compruebaQueVarie(const enlazado::Expresion& clave);
 /// Refuses a sort key that uses what the result does not show, unless it is a plain column.
 void compruebaClave(const enlazado::Expresion& clave, const enlazado::Consulta& consulta);
 /// Turns DISTINCT into groups where that keeps the oldest spelling of texts.

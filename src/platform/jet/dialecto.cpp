@@ -21,6 +21,7 @@ constexpr Dialecto Sqlite = {
     .textoNoNulo = {"ifnull(", ", '')"},
     .claveConCeros = {"printf('%020d', ", ")"},
     .limite = {" LIMIT ", ""},
+    .unionOcultaFilas = true,
 };
 
 constexpr Dialecto PostgreSql = {
@@ -66,6 +67,7 @@ constexpr Dialecto MariaDb = {
     .textoNoNulo = {"IFNULL(", ", '')"},
     .claveConCeros = {"LPAD(", ", 20, '0')"},
     .limite = {" LIMIT ", ""},
+    .consultaReal = {"CAST(", " AS DOUBLE)"}, // an index of whole numbers would be asked for the rounded double
 };
 
 } // namespace

@@ -45,6 +45,8 @@ struct Dialecto
     Envoltura textoNoNulo;   ///< Null becomes the empty text
     Envoltura claveConCeros; ///< a row's number as text of fixed width
     Envoltura limite;
+    Envoltura consultaReal{};      ///< round a whole number of a sub-query that a double is looked for in
+    bool unionOcultaFilas = false; ///< a join in parentheses shows its tables' columns, but not their row numbers
 };
 
 [[nodiscard]] const Dialecto& dialectoDe(Motor motor);

@@ -38,13 +38,105 @@ void recorreConsulta(const Consulta& consulta, const Visita& visita)
         visitaSi(clave.expresion, visita);
 }
 
-/// Whether the node is that column, as it stands or in its oldest spelling.
-bool esColumna(const Expresion& expresion, const Columna& columna)
+// What stands right below each kind of node: a new kind has to say it here.
+
+template<class Dos>
+void recorreDos(const Dos& dato, const Visita& visita)
 {
-    if (const auto* grafia = std::get_if<PrimeraGrafia>(&expresion.dato))
-        return grafia->columna == columna;
-    const auto* otra = std::get_if<Columna>(&expresion.dato);
-    return otra && *otra == columna;
+    visita(*dato.izquierda);
+    visita(*dato.derecha);
+}
+
+void recorre(const Columna&, const Visita&) {}
+void recorre(const PrimeraGrafia&, const Visita&) {}
+void recorre(const Parametro&, const Visita&) {}
+void recorre(const Nulo&, const Visita&) {}
+void recorre(const Constante&, const Visita&) {}
+
+void recorre(const Aritmetica& dato, const Visita& visita)
+{
+    recorreDos(dato, visita);
+}
+
+void recorre(const CambioDeSigno& dato, const Visita& visita)
+{
+    visita(*dato.operando);
+}
+
+void recorre(const TextosUnidos& dato, const Visita& visita)
+{
+    recorreDos(dato, visita);
+}
+
+void recorre(const ComoTexto& dato, const Visita& visita)
+{
+    visita(*dato.operando);
+}
+
+void recorre(const Parte& dato, const Visita& visita)
+{
+    visita(*dato.fecha);
+}
+
+void recorre(const Agregado& dato, const Visita& visita)
+{
+    visitaSi(dato.operando, visita);
+}
+
+void recorre(const Cabe& dato, const Visita& visita)
+{
+    visita(*dato.operando);
+}
+
+void recorre(const ComoValor& dato, const Visita& visita)
+{
+    visita(*dato.condicion);
+}
+
+void recorre(const Logica& dato, const Visita& visita)
+{
+    recorreDos(dato, visita);
+}
+
+void recorre(const No& dato, const Visita& visita)
+{
+    visita(*dato.operando);
+}
+
+void recorre(const Comparacion& dato, const Visita& visita)
+{
+    recorreDos(dato, visita);
+}
+
+void recorre(const Parecido& dato, const Visita& visita)
+{
+    visita(*dato.valor);
+    visita(*dato.patron);
+}
+
+void recorre(const Entre& dato, const Visita& visita)
+{
+    visita(*dato.valor);
+    visita(*dato.desde);
+    visita(*dato.hasta);
+}
+
+void recorre(const EnLista& dato, const Visita& visita)
+{
+    visita(*dato.valor);
+    for (const ExpresionPtr& elemento : dato.lista)
+        visita(*elemento);
+}
+
+void recorre(const EnConsulta& dato, const Visita& visita)
+{
+    visita(*dato.valor);
+    recorreConsulta(*dato.consulta, visita);
+}
+
+void recorre(const EsNulo& dato, const Visita& visita)
+{
+    visita(*dato.valor);
 }
 
 } // namespace
@@ -75,75 +167,16 @@ bool esEntero(TipoColumna tipo)
     return tipo == TipoColumna::Entero32 || tipo == TipoColumna::Entero16 || tipo == TipoColumna::SiNo;
 }
 
-bool iguales(const Expresion& a, const Expresion& b)
+const Columna* columnaMostrada(const Expresion& expresion)
 {
-    if (const auto* grafia = std::get_if<PrimeraGrafia>(&a.dato))
-        return esColumna(b, grafia->columna);
-    if (const auto* columna = std::get_if<Columna>(&a.dato))
-        return esColumna(b, *columna);
-    if (a.dato.index() != b.dato.index())
-        return false;
-    const auto comparados = PorClase{
-        [&](const Constante& x) { return x.valor == std::get<Constante>(b.dato).valor; },
-        [&](const Aritmetica& x) {
-            const auto& y = std::get<Aritmetica>(b.dato);
-            return x.operador == y.operador && iguales(*x.izquierda, *y.izquierda) && iguales(*x.derecha, *y.derecha);
-        },
-        [&](const CambioDeSigno& x) { return iguales(*x.operando, *std::get<CambioDeSigno>(b.dato).operando); },
-        [&](const TextosUnidos& x) {
-            const auto& y = std::get<TextosUnidos>(b.dato);
-            return iguales(*x.izquierda, *y.izquierda) && iguales(*x.derecha, *y.derecha);
-        },
-        [&](const ComoTexto& x) { return iguales(*x.operando, *std::get<ComoTexto>(b.dato).operando); },
-        [&](const Parte& x) {
-            const auto& y = std::get<Parte>(b.dato);
-            return x.parte == y.parte && iguales(*x.fecha, *y.fecha);
-        },
-        [](const auto&) { return false; },
-    };
-    return std::visit(comparados, a.dato);
+    if (const auto* grafia = std::get_if<PrimeraGrafia>(&expresion.dato))
+        return &grafia->columna;
+    return std::get_if<Columna>(&expresion.dato);
 }
 
 void recorreHijos(const Expresion& expresion, const Visita& visita)
 {
-    const auto dos = [&](const auto& x) {
-        visita(*x.izquierda);
-        visita(*x.derecha);
-    };
-    std::visit(PorClase{
-                   [&](const Aritmetica& x) { dos(x); },
-                   [&](const CambioDeSigno& x) { visita(*x.operando); },
-                   [&](const TextosUnidos& x) { dos(x); },
-                   [&](const ComoTexto& x) { visita(*x.operando); },
-                   [&](const Parte& x) { visita(*x.fecha); },
-                   [&](const Agregado& x) { visitaSi(x.operando, visita); },
-                   [&](const Cabe& x) { visita(*x.operando); },
-                   [&](const ComoValor& x) { visita(*x.condicion); },
-                   [&](const Logica& x) { dos(x); },
-                   [&](const No& x) { visita(*x.operando); },
-                   [&](const Comparacion& x) { dos(x); },
-                   [&](const Parecido& x) {
-                       visita(*x.valor);
-                       visita(*x.patron);
-                   },
-                   [&](const Entre& x) {
-                       visita(*x.valor);
-                       visita(*x.desde);
-                       visita(*x.hasta);
-                   },
-                   [&](const EnLista& x) {
-                       visita(*x.valor);
-                       for (const ExpresionPtr& elemento : x.lista)
-                           visita(*elemento);
-                   },
-                   [&](const EnConsulta& x) {
-                       visita(*x.valor);
-                       recorreConsulta(*x.consulta, visita);
-                   },
-                   [&](const EsNulo& x) { visita(*x.valor); },
-                   [](const auto&) {},
-               },
-               expresion.dato);
+    std::visit([&](const auto& dato) { recorre(dato, visita); }, expresion.dato);
 }
 
 bool alguna(const Expresion& expresion, const std::function<bool(const Expresion&)>& prueba)
@@ -152,6 +185,13 @@ bool alguna(const Expresion& expresion, const std::function<bool(const Expresion
         return true;
     bool hallada = false;
     recorreHijos(expresion, [&](const Expresion& hijo) { hallada = hallada || alguna(hijo, prueba); });
+    return hallada;
+}
+
+bool alguna(const Consulta& consulta, const std::function<bool(const Expresion&)>& prueba)
+{
+    bool hallada = false;
+    recorreConsulta(consulta, [&](const Expresion& suya) { hallada = hallada || alguna(suya, prueba); });
     return hallada;
 }
 

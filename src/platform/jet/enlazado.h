@@ -211,14 +211,22 @@ template<class Dato>
     return std::make_unique<Expresion>(Expresion{std::move(dato), tipo, lugar});
 }
 
-/// Whether both say the same of the same columns. A literal is equal to none: statements that differ in it share one translation.
+/// The column that a node shows, as it stands or in its oldest spelling; nullptr for any other node.
+[[nodiscard]] const Columna* columnaMostrada(const Expresion& expresion);
+
+/// Whether both say the same of the same columns. A literal is equal to itself alone: statements that differ in it share one
+/// translation. A sub-query is equal to none.
 [[nodiscard]] bool iguales(const Expresion& a, const Expresion& b);
+/// The same, but for what the literals are.
+[[nodiscard]] bool mismaForma(const Expresion& a, const Expresion& b);
 
 /// Calls `visita` with each node right below `expresion`; the expressions of a sub-query count among them.
 void recorreHijos(const Expresion& expresion, const std::function<void(const Expresion&)>& visita);
 
 /// Whether `prueba` holds for the expression or for anything below it.
 [[nodiscard]] bool alguna(const Expresion& expresion, const std::function<bool(const Expresion&)>& prueba);
+/// Whether it holds for any expression of the query.
+[[nodiscard]] bool alguna(const Consulta& consulta, const std::function<bool(const Expresion&)>& prueba);
 
 struct Fuente;
 using FuentePtr = std::unique_ptr<Fuente>;

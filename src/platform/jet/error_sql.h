@@ -24,7 +24,6 @@ struct ErrorSql
         ClaveDeOrdenFueraDelResultado,
         AgrupacionIncorrecta,
         SinOrdenPosible,
-        ValorNoCabe,
     };
 
     Clase clase = Clase::SintaxisIncorrecta;

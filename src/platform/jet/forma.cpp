@@ -123,7 +123,7 @@ private:
         Literal& literal = pon(Literal::Clase::Texto, leido.fin);
         literal.texto = leido.contenido;
         if (leido.comillasDobladas) {
-            m_conComillas.push_back(leido.contenido.toString().replace(u"''"_s, u"'"_s));
+            m_conComillas.push_back(sinComillasDobladas(leido.contenido));
             literal.texto = m_conComillas.back();
         }
         return true;

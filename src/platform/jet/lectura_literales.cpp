@@ -169,6 +169,11 @@ TextoLeido leeTexto(const char16_t* desde, const char16_t* fin)
     return leido;
 }
 
+QString sinComillasDobladas(QStringView contenido)
+{
+    return contenido.toString().replace(QStringLiteral("''"), QStringLiteral("'"));
+}
+
 FechaLeida leeFecha(const char16_t* desde, const char16_t* fin)
 {
     FechaLeida leida;

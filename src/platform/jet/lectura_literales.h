@@ -2,7 +2,7 @@
 
 #include "platform/runtime/fecha.h"
 
-#include <QStringView>
+#include <QString>
 
 /// Reading one literal at a place in the text. The lexer and the extractor of shapes both read through these, so that they find
 /// the same literals.
@@ -26,6 +26,8 @@ struct TextoLeido
     bool comillasDobladas = false;
 };
 [[nodiscard]] TextoLeido leeTexto(const char16_t* desde, const char16_t* fin);
+/// What a text says: each apostrophe that stands twice between its apostrophes is one.
+[[nodiscard]] QString sinComillasDobladas(QStringView contenido);
 
 /// "#mm/dd/yyyy#" or "#mm/dd/yyyy hh:mm[:ss]#", blanks tolerated.
 struct FechaLeida

@@ -50,7 +50,7 @@ private:
     std::vector<ast::ExpresionPtr> parseGrupos();
     std::vector<ast::ClaveDeOrden> parseOrden();
     ast::ClaveDeOrden parseClaveDeOrden();
-    void compruebaCuantos(size_t elementos, QStringView clausula) const;
+    void compruebaCuantos(size_t elementos, int caben, QStringView clausula) const;
 
     // Expressions.
     ast::ExpresionPtr parseExpresion();

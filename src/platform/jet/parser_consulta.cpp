@@ -6,7 +6,6 @@ namespace kestrane::jet {
 
 ast::Consulta Parser::parseConsulta()
 {
-    const Nivel nivel{*this};
     const int masHondoFuera = std::exchange(m_masHondo, 0);
     const int tablasFuera = std::exchange(m_tablas, 0);
     ast::Consulta consulta;
@@ -14,7 +13,7 @@ ast::Consulta Parser::parseConsulta()
     consulta.filas = parseFilas();
     consulta.limite = parseLimite();
     consulta.lista = conComas([this] { return parseElementoLista(); });
-    compruebaCuantos(consulta.lista.size(), u"SELECT");
+    compruebaCuantos(consulta.lista.size(), limites::ElementosDeLista, u"SELECT");
     if (esta(ClaseToken::Into))
         noAdmitida(actual(), u"No se admite SELECT ... INTO: una consulta no crea tablas."_s);
     consume(ClaseToken::From);
@@ -109,9 +108,10 @@ ast::FuentePtr Parser::parseUnion(ast::FuentePtr izquierda, ast::ClaseUnion clas
 
 ast::FuentePtr Parser::parseFuentePrimaria()
 {
-    const Nivel nivel{*this};
     const Token& primero = actual();
-    if (consumeSi(ClaseToken::AbreParentesis)) {
+    if (esta(ClaseToken::AbreParentesis)) {
+        const Nivel nivel{*this};
+        consume(ClaseToken::AbreParentesis);
         if (esta(ClaseToken::Select))
             noAdmitida(actual(), u"No se admite una consulta en lugar de una tabla."_s);
         ast::FuentePtr fuente = parseFuente();
@@ -141,7 +141,7 @@ std::vector<ast::ExpresionPtr> Parser::parseGrupos()
         return {};
     consume(ClaseToken::By);
     auto grupos = conComas([this] { return parseExpresion(); });
-    compruebaCuantos(grupos.size(), u"GROUP BY");
+    compruebaCuantos(grupos.size(), limites::ClavesDeLista, u"GROUP BY");
     return grupos;
 }
 
@@ -151,7 +151,7 @@ std::vector<ast::ClaveDeOrden> Parser::parseOrden()
         return {};
     consume(ClaseToken::By);
     auto orden = conComas([this] { return parseClaveDeOrden(); });
-    compruebaCuantos(orden.size(), u"ORDER BY");
+    compruebaCuantos(orden.size(), limites::ClavesDeLista, u"ORDER BY");
     return orden;
 }
 
@@ -166,14 +166,14 @@ ast::ClaveDeOrden Parser::parseClaveDeOrden()
     return clave;
 }
 
-void Parser::compruebaCuantos(size_t elementos, QStringView clausula) const
+void Parser::compruebaCuantos(size_t elementos, int caben, QStringView clausula) const
 {
-    if (elementos <= static_cast<size_t>(limites::ElementosDeLista))
+    if (elementos <= static_cast<size_t>(caben))
         return;
     const Token& token = anterior();
     throw Rechazo{{ErrorSql::Clase::DemasiadoLargo,
-                   u"La lista de %1 es demasiado larga: caben %2 elementos."_s.arg(clausula).arg(limites::ElementosDeLista),
-                   token.posicion, token.longitud}};
+                   u"La lista de %1 es demasiado larga: caben %2 elementos."_s.arg(clausula).arg(caben), token.posicion,
+                   token.longitud}};
 }
 
 } // namespace kestrane::jet

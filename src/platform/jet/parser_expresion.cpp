@@ -1,4 +1,5 @@
 #include "platform/jet/ast/precedencia.h"
+#include "platform/jet/lectura_literales.h"
 #include "platform/jet/parser_interno.h"
 
 using namespace Qt::StringLiterals;
@@ -10,12 +11,6 @@ using ast::Precedencia;
 using ast::Sentido;
 
 namespace {
-
-QString sinComillasDobladas(QStringView texto)
-{
-    QString entero = texto.toString();
-    return entero.contains(u'\'') ? entero.replace(u"''"_s, u"'"_s) : entero;
-}
 
 int masHondoDe(const std::vector<ast::ExpresionPtr>& lista)
 {
@@ -50,7 +45,6 @@ ast::ExpresionPtr Parser::parseExpresion()
 /// loop, tighter ones in the calls below.
 ast::ExpresionPtr Parser::parseExpresion(Precedencia minima)
 {
-    const Nivel nivel{*this};
     ast::ExpresionPtr izquierda = parseOperando(minima);
     while (true) {
         const ast::FilaDeOperador* fila = ast::filaDe(actual().clase);
@@ -79,6 +73,7 @@ ast::ExpresionPtr Parser::parseOperando(Precedencia minima)
 
 ast::ExpresionPtr Parser::parseUnaria(OperadorUnario operador, Precedencia delOperando)
 {
+    const Nivel nivel{*this};
     const Token& primero = actual();
     ++m_indice;
     ast::ExpresionPtr operando = parseExpresion(delOperando);
@@ -144,6 +139,7 @@ ast::ExpresionPtr Parser::parseEntre(ast::ExpresionPtr valor, Sentido sentido)
 
 ast::ExpresionPtr Parser::parseEn(ast::ExpresionPtr valor, Sentido sentido)
 {
+    const Nivel nivel{*this};
     consume(ClaseToken::AbreParentesis);
     if (esta(ClaseToken::Select)) {
         auto consulta = std::make_unique<const ast::Consulta>(parseConsulta());
@@ -153,6 +149,7 @@ ast::ExpresionPtr Parser::parseEn(ast::ExpresionPtr valor, Sentido sentido)
         return nodo(ast::EnConsulta{sentido, std::move(valor), std::move(consulta)}, lugar, debajo);
     }
     auto lista = conComas([this] { return parseExpresion(); });
+    compruebaCuantos(lista.size(), limites::ElementosDeIn, u"IN");
     consume(ClaseToken::CierraParentesis);
     const auto debajo = {valor->profundidad, masHondoDe(lista)};
     const ast::Lugar lugar = lugarQueAbarca(*valor);
@@ -186,6 +183,7 @@ ast::ExpresionPtr Parser::parsePrimaria()
 
 ast::ExpresionPtr Parser::parseParentesis()
 {
+    const Nivel nivel{*this};
     consume(ClaseToken::AbreParentesis);
     if (esta(ClaseToken::Select))
         noAdmitida(actual(), u"Una consulta entre paréntesis solo se admite detrás de IN."_s);
@@ -197,6 +195,10 @@ ast::ExpresionPtr Parser::parseParentesis()
 ast::ExpresionPtr Parser::parseLiteral()
 {
     const Token& token = actual();
+    if (token.literal >= limites::Literales)
+        throw Rechazo{{ErrorSql::Clase::DemasiadoLargo,
+                       u"La sentencia tiene demasiados valores: se admiten %1."_s.arg(limites::Literales), token.posicion,
+                       token.longitud}};
     ++m_indice;
     ast::Valor valor;
     valor.clase = claseDeLiteral(token.clase);
@@ -204,7 +206,7 @@ ast::ExpresionPtr Parser::parseLiteral()
     valor.fecha = token.fecha;
     valor.literal = token.literal;
     if (token.clase == ClaseToken::Texto)
-        valor.texto = sinComillasDobladas(token.texto);
+        valor.texto = token.texto.contains(u'\'') ? sinComillasDobladas(token.texto) : token.texto.toString();
     return nodo(std::move(valor), {token.posicion, token.longitud});
 }
 
@@ -221,6 +223,7 @@ ast::ExpresionPtr Parser::parseColumna()
 
 ast::ExpresionPtr Parser::parseLlamada()
 {
+    const Nivel nivel{*this};
     const Token& primero = consume(ClaseToken::Nombre);
     consume(ClaseToken::AbreParentesis);
     ast::Llamada llamada{primero.texto.toString(), false, {}};

@@ -11,22 +11,28 @@ using namespace enlazado;
 
 namespace {
 
-/// The column that a node is, as it stands or in its oldest spelling.
-const enlazado::Columna* columnaDe(const Expresion& expresion)
-{
-    if (const auto* grafia = std::get_if<PrimeraGrafia>(&expresion.dato))
-        return &grafia->columna;
-    return std::get_if<enlazado::Columna>(&expresion.dato);
-}
-
 bool esDeLaConsulta(enlazado::Columna columna, const Consulta& consulta)
 {
     return std::ranges::find(consulta.fuentes, columna.fuente) != consulta.fuentes.end();
 }
 
+/// Whether the list shows it. Literals count as equal: a key is written by itself, and is no less of the result with another one.
 bool estaEnLaLista(const Expresion& expresion, const Consulta& consulta)
 {
-    return std::ranges::any_of(consulta.lista, [&](const Salida& salida) { return iguales(*salida.expresion, expresion); });
+    return std::ranges::any_of(consulta.lista, [&](const Salida& salida) { return mismaForma(*salida.expresion, expresion); });
+}
+
+/// Whether the expression uses a column of the query outside what the list shows.
+bool usaLoQueFalta(const Expresion& expresion, const Consulta& consulta)
+{
+    if (estaEnLaLista(expresion, consulta))
+        return false;
+    const enlazado::Columna* columna = columnaMostrada(expresion);
+    if (columna && esDeLaConsulta(*columna, consulta))
+        return true;
+    bool falta = false;
+    recorreHijos(expresion, [&](const Expresion& hijo) { falta = falta || usaLoQueFalta(hijo, consulta); });
+    return falta;
 }
 
 } // namespace
@@ -36,7 +42,7 @@ void compruebaAgrupacion(const Expresion& expresion, const Consulta& consulta)
     const auto igual = [&](const ExpresionPtr& grupo) { return iguales(*grupo, expresion); };
     if (std::holds_alternative<Agregado>(expresion.dato) || std::ranges::any_of(consulta.grupos, igual))
         return;
-    const enlazado::Columna* columna = columnaDe(expresion);
+    const enlazado::Columna* columna = columnaMostrada(expresion);
     if (columna && esDeLaConsulta(*columna, consulta))
         throw Rechazo{{ErrorSql::Clase::AgrupacionIncorrecta,
                        u"Al agrupar, cada columna ha de estar en GROUP BY o dentro de sum, count, max, min o avg."_s,
@@ -44,22 +50,21 @@ void compruebaAgrupacion(const Expresion& expresion, const Consulta& consulta)
     recorreHijos(expresion, [&](const Expresion& hijo) { compruebaAgrupacion(hijo, consulta); });
 }
 
-void compruebaClave(const Expresion& clave, const Consulta& consulta)
+void compruebaQueVarie(const Expresion& clave)
 {
-    if (columnaDe(clave) || estaEnLaLista(clave, consulta))
-        return;
-    const auto esColumna = [](const Expresion& e) { return columnaDe(e) != nullptr; };
-    if (!alguna(clave, esColumna))
+    const auto varia = [](const Expresion& e) { return columnaMostrada(e) || std::holds_alternative<Agregado>(e.dato); };
+    if (!alguna(clave, varia))
         throw Rechazo{{ErrorSql::Clase::SintaxisIncorrecta, u"No se ordena por un valor fijo: escriba el nombre de una columna."_s,
                        clave.lugar.posicion, clave.lugar.longitud}};
-    const auto falta = [&](const Expresion& e) {
-        const enlazado::Columna* columna = columnaDe(e);
-        return columna && esDeLaConsulta(*columna, consulta) && !estaEnLaLista(e, consulta);
-    };
-    if (alguna(clave, falta))
-        throw Rechazo{{ErrorSql::Clase::ClaveDeOrdenFueraDelResultado,
-                       u"Una condición o cuenta de ORDER BY solo puede usar columnas que estén en la lista de SELECT."_s,
-                       clave.lugar.posicion, clave.lugar.longitud}};
+}
+
+void compruebaClave(const Expresion& clave, const Consulta& consulta)
+{
+    if (columnaMostrada(clave) || !usaLoQueFalta(clave, consulta))
+        return;
+    throw Rechazo{{ErrorSql::Clase::ClaveDeOrdenFueraDelResultado,
+                   u"Una condición o cuenta de ORDER BY solo puede usar columnas que estén en la lista de SELECT."_s,
+                   clave.lugar.posicion, clave.lugar.longitud}};
 }
 
 bool tieneGrafia(enlazado::Columna columna, const std::vector<const Tabla*>& tablas)

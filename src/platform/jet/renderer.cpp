@@ -12,7 +12,8 @@ namespace {
 
 constexpr int LongitudHabitual = 512;
 
-/// The precedence of a node as it is written; a conversion that an engine writes as a call holds at least as tightly.
+} // namespace
+
 PrecedenciaSql precedenciaDe(const Expresion& e)
 {
     using enum PrecedenciaSql;
@@ -32,8 +33,6 @@ PrecedenciaSql precedenciaDe(const Expresion& e)
                  [](const Constante& x) { return x.valor ? Signo : Primaria; }, [](const auto&) { return Primaria; }},
         e.dato);
 }
-
-} // namespace
 
 Renderer::Renderer(const Dialecto& dialecto, const Sentencia& sentencia)
     : m_dialecto{dialecto}

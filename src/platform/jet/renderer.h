@@ -71,7 +71,9 @@ private:
     // Queries.
     class Claves;
     void lista(const enlazado::Consulta& una, const ColumnasOcultas& ocultas);
-    void fuente(const enlazado::Fuente& una);
+    enum class Sitio { Suelta, EntreParentesis };
+    void fuente(const enlazado::Fuente& una, Sitio sitio);
+    void tablaDeFrom(int indice, Sitio sitio);
     void clausula(const char* palabra, const enlazado::ExpresionPtr& condicion);
     void grupos(const enlazado::Consulta& una);
     void orden(const enlazado::Consulta& una);
@@ -116,7 +118,8 @@ private:
     void conComas(const Lista& lista, Escribe escribe);
 
     const enlazado::Sentencia& m_sentencia;
-    bool m_esConsulta; ///< tables have short names t0, t1, ...; else the first goes by its own
+    bool m_esConsulta;                   ///< tables have short names t0, t1, ...; else the first goes by its own
+    const Expresion* m_enReal = nullptr; ///< the shown column of the sub-query that comes next, when it is compared with doubles
     QByteArray m_sql;
     std::vector<Parametro> m_parametros;
 };

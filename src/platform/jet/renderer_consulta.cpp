@@ -60,7 +60,7 @@ void Renderer::consulta(const Consulta& una, const ColumnasOcultas& ocultas)
     pon(una.filas == Filas::Distintas ? "SELECT DISTINCT " : "SELECT ");
     lista(una, ocultas);
     pon(" FROM ");
-    conComas(una.desde, [this](const FuentePtr& f) { fuente(*f); });
+    conComas(una.desde, [this](const FuentePtr& f) { fuente(*f, Sitio::Suelta); });
     clausula(" WHERE ", una.donde);
     grupos(una);
     clausula(" HAVING ", una.teniendo);
@@ -73,7 +73,11 @@ void Renderer::lista(const Consulta& una, const ColumnasOcultas& ocultas)
 {
     conComas(una.lista, [&](const Salida& salida) {
         // DISTINCT compares what the list shows: the collation stands there.
-        if (una.filas == Filas::Distintas)
+        if (salida.expresion->esNulo()) // engines ask for its type where it is compared with that of a column
+            envuelto(m_dialecto.parametro[static_cast<size_t>(salida.expresion->tipo)], *salida.expresion);
+        else if (salida.expresion.get() == m_enReal)
+            envuelto(m_dialecto.consultaReal, *salida.expresion);
+        else if (una.filas == Filas::Distintas)
             cotejado(*salida.expresion);
         else
             expresion(*salida.expresion);
@@ -89,22 +93,34 @@ void Renderer::lista(const Consulta& una, const ColumnasOcultas& ocultas)
 }
 
 /// Joins group from the left without parentheses; only a join on the right of another needs them.
-void Renderer::fuente(const Fuente& una)
+void Renderer::fuente(const Fuente& una, Sitio sitio)
 {
-    if (const auto* indice = std::get_if<int>(&una.dato)) {
-        identificador(tabla(*indice).nombre);
-        pon(" AS ");
-        calificador(*indice);
-        return;
-    }
+    if (const auto* indice = std::get_if<int>(&una.dato))
+        return tablaDeFrom(*indice, sitio);
     const auto& unida = std::get<Union>(una.dato);
     const bool parentesis = std::holds_alternative<Union>(unida.derecha->dato);
-    fuente(*unida.izquierda);
+    fuente(*unida.izquierda, sitio);
     pon(unida.clase == ClaseUnion::Izquierda ? " LEFT JOIN " : " INNER JOIN ");
     pon(parentesis ? "(" : "");
-    fuente(*unida.derecha);
+    fuente(*unida.derecha, parentesis ? Sitio::EntreParentesis : sitio);
     pon(parentesis ? ") ON " : " ON ");
     expresion(*unida.condicion);
+}
+
+void Renderer::tablaDeFrom(int indice, Sitio sitio)
+{
+    const Tabla& una = tabla(indice);
+    const bool conFila = sitio == Sitio::EntreParentesis && m_dialecto.unionOcultaFilas && !una.identidad.isEmpty();
+    if (conFila) {
+        pon("(SELECT ");
+        identificador(una.identidad);
+        pon(" AS ");
+        identificador(una.identidad);
+        pon(", * FROM ");
+    }
+    identificador(una.nombre);
+    pon(conFila ? ") AS " : " AS ");
+    calificador(indice);
 }
 
 void Renderer::clausula(const char* palabra, const ExpresionPtr& condicion)

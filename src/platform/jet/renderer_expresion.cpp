@@ -117,11 +117,15 @@ void Renderer::nodo(const ComoTexto& dato, const Expresion&)
 {
     if (dato.operando->tipo != TipoColumna::SiNo)
         return comoTexto(*dato.operando);
-    pon("CASE WHEN ");
-    expresion(*dato.operando, PrecedenciaSql::Suma);
-    pon(" <> 0 THEN 'Verdadero' WHEN ");
-    expresion(*dato.operando, PrecedenciaSql::Suma);
-    pon(" = 0 THEN 'Falso' END");
+    // A condition is asked once: what holds it may be a condition as text itself.
+    pon("CASE ");
+    if (const auto* valor = std::get_if<ComoValor>(&dato.operando->dato)) {
+        expresion(*valor->condicion);
+    } else {
+        expresion(*dato.operando, PrecedenciaSql::Suma);
+        pon(" <> 0");
+    }
+    pon(" WHEN TRUE THEN 'Verdadero' WHEN FALSE THEN 'Falso' END");
 }
 
 void Renderer::nodo(const Parte& dato, const Expresion&)
@@ -137,6 +141,8 @@ void Renderer::nodo(const Agregado& dato, const Expresion&)
         pon("*");
     else if (dato.funcion == FuncionAgregada::Maximo || dato.funcion == FuncionAgregada::Minimo)
         cotejado(*dato.operando);
+    else if (dato.operando->esNulo())
+        envuelto(m_dialecto.parametro[static_cast<size_t>(TipoColumna::Doble)], *dato.operando); // a Null of no type is no number
     else
         expresion(*dato.operando);
     pon(envoltura.despues);
@@ -203,8 +209,10 @@ void Renderer::nodo(const EnLista& dato, const Expresion&)
 
 void Renderer::nodo(const EnConsulta& dato, const Expresion&)
 {
-    comparado(*dato.valor, dato.familia, dato.consulta->lista.front().expresion.get());
+    const Expresion& dada = *dato.consulta->lista.front().expresion;
+    comparado(*dato.valor, dato.familia, &dada);
     pon(dato.sentido == Sentido::Negado ? " NOT IN (" : " IN (");
+    m_enReal = dato.valor->tipo == TipoColumna::Doble && esEntero(dada.tipo) ? &dada : nullptr;
     subconsulta(*dato.consulta);
     pon(")");
 }

@@ -10,7 +10,9 @@ namespace {
 
 constexpr FormatoDeFecha Formato{.anio = "%Y", .mes = "%m", .dia = "%d", .hora = "%k:%i:%s"};
 constexpr Envoltura Real{"CAST(", " AS DOUBLE)"};
-constexpr Envoltura Redondeado{"CAST(ROUND(", ") AS SIGNED)"};
+/// A whole number of 32 bits, rounded half to even; the product of any other one leaves 64 bits, which is an error.
+constexpr Envoltura Entero{"(CAST(ROUND(CAST(", " AS DOUBLE)) AS SIGNED) * 4294967296 DIV 4294967296)"};
+constexpr Envoltura Llano{"", ""};
 
 } // namespace
 
@@ -65,20 +67,29 @@ void RendererMariadb::aritmetica(const Aritmetica& cuenta)
     case Division:
         return divisionQueFalla(cuenta, " / ", Real);
     case DivisionEntera:
-        return divisionQueFalla(cuenta, " DIV ", Redondeado);
+        return divisionQueFalla(cuenta, " DIV ", Entero);
     case Resto:
-        return divisionQueFalla(cuenta, " MOD ", Redondeado);
+        return divisionQueFalla(cuenta, " MOD ", Entero);
     }
 }
 
 /// A power of zero below nought is out of range, which is an error where a division by zero would be a Null.
-void RendererMariadb::divisionQueFalla(const Aritmetica& cuenta, const char* operador, const Envoltura& operando)
+void RendererMariadb::divisionQueFalla(const Aritmetica& cuenta, const char* operador, const Envoltura& clase)
 {
-    envuelto({"IF(", " = 0, POW(0, -1), "}, *cuenta.derecha, PrecedenciaSql::Suma);
-    envuelto(operando, *cuenta.izquierda);
+    pon("IF(");
+    operando(*cuenta.derecha, clase);
+    pon(" = 0, POW(0, -1), ");
+    operando(*cuenta.izquierda, clase);
     pon(operador);
-    envuelto(operando, *cuenta.derecha);
+    operando(*cuenta.derecha, clase);
     pon(")");
+}
+
+/// What has 32 bits already stands as it is.
+void RendererMariadb::operando(const Expresion& valor, const Envoltura& clase)
+{
+    const bool entero = esEntero(valor.tipo) && (std::holds_alternative<enlazado::Columna>(valor.dato) || valor.esParametro());
+    envuelto(&clase == &Entero && entero ? Llano : clase, valor);
 }
 
 void RendererMariadb::subconsulta(const Consulta& una)

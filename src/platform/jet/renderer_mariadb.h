@@ -23,7 +23,8 @@ protected:
 
 private:
     void fechaComoTexto(const Expresion& valor);
-    void divisionQueFalla(const enlazado::Aritmetica& cuenta, const char* operador, const Envoltura& operando);
+    void divisionQueFalla(const enlazado::Aritmetica& cuenta, const char* operador, const Envoltura& clase);
+    void operando(const Expresion& valor, const Envoltura& clase);
 
     const ConfiguracionRegional& m_regional;
 };

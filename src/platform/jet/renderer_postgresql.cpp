@@ -74,10 +74,26 @@ void RendererPostgresql::aritmetica(const Aritmetica& cuenta)
     case Division:
         return cuentaCon(cuenta, " / ", Real, PrecedenciaSql::Producto);
     case DivisionEntera:
-        return cuentaCon(cuenta, " / ", Entero64, PrecedenciaSql::Producto);
+        return divisionEntera(cuenta, " / ");
     case Resto:
-        return cuentaCon(cuenta, " % ", Entero64, PrecedenciaSql::Producto);
+        return divisionEntera(cuenta, " % ");
     }
+}
+
+/// Operands are rounded half to even to 32 bits, and what does not fit is an error; the quotient may need one bit more.
+void RendererPostgresql::divisionEntera(const Aritmetica& cuenta, const char* operador)
+{
+    de32Bits(*cuenta.izquierda);
+    pon(operador);
+    de32Bits(*cuenta.derecha);
+}
+
+void RendererPostgresql::de32Bits(const Expresion& valor)
+{
+    const bool loEs = esEntero(valor.tipo) && (std::holds_alternative<enlazado::Columna>(valor.dato) || valor.esParametro());
+    if (loEs)
+        return operando(valor, Entero64, PrecedenciaSql::Primaria);
+    envuelto({"CAST(CAST(", " AS integer) AS bigint)"}, valor);
 }
 
 void RendererPostgresql::cuentaCon(const Aritmetica& cuenta, const char* operador, const char* tipo, PrecedenciaSql precedencia)
@@ -87,7 +103,6 @@ void RendererPostgresql::cuentaCon(const Aritmetica& cuenta, const char* operado
     operando(*cuenta.derecha, tipo, static_cast<PrecedenciaSql>(static_cast<int>(precedencia) + 1));
 }
 
-/// A double that becomes a whole number is rounded half to even by the cast.
 void RendererPostgresql::operando(const Expresion& valor, const char* tipo, PrecedenciaSql minima)
 {
     if (const auto* parametro = std::get_if<enlazado::Parametro>(&valor.dato); parametro && tipo == Real)

@@ -22,6 +22,8 @@ protected:
 
 private:
     void fechaComoTexto(const Expresion& valor);
+    void divisionEntera(const enlazado::Aritmetica& cuenta, const char* operador);
+    void de32Bits(const Expresion& valor);
     void operando(const Expresion& valor, const char* tipo, PrecedenciaSql minima);
     void cuentaCon(const enlazado::Aritmetica& cuenta, const char* operador, const char* tipo, PrecedenciaSql precedencia);
 

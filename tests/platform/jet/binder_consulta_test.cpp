@@ -141,8 +141,22 @@ TEST(BinderConsultaTest, ASortKeyIsAColumnBeforeItIsAnAlias)
 
 TEST(BinderConsultaTest, ASortKeyMayBeAnExpressionOfTheList)
 {
+    EXPECT_EQ(ordenDe(u"select total * 2 as d from ventas order by d + 1"_s), u"t0.\"total\" * ? + ?, t0.\"rowid\""_s);
+    EXPECT_EQ(ordenDe(u"select total * 2 as d from ventas order by total * 2"_s), u"t0.\"total\" * ?, t0.\"rowid\""_s);
+    EXPECT_EQ(ordenDe(u"select tienda is null as d from ventas order by tienda is null"_s),
+              u"-(t0.\"tienda\" IS NULL), t0.\"rowid\""_s);
     EXPECT_EQ(ordenDe(u"select month(fecha) as m from ventas order by month(fecha)"_s), u"mes(t0.\"fecha\"), t0.\"rowid\""_s);
     EXPECT_EQ(ordenDe(u"select nombre from clientes order by codigo"_s), u"t0.\"codigo\", t0.\"rowid\""_s);
+}
+
+TEST(BinderConsultaTest, RefusesWhatOnlySomeEnginesRun)
+{
+    rehusaTraducir(u"select "_s + u"*,"_s.repeated(125) + u"numero from ventas"_s, Clase::DemasiadoLargo, u"numero"_s);
+    EXPECT_TRUE(traduce(u"select "_s + u"*,"_s.repeated(124) + u"* from ventas"_s).bien()); // 125 times its 8 columns
+    const QString interior = u"select top 1 num_venta from lineas where num_venta = numero"_s;
+    rehusaTraducir(u"select numero from ventas where numero in (%1)"_s.arg(interior), Clase::SentenciaNoAdmitida, interior);
+    EXPECT_TRUE(
+        traduce(u"select numero from ventas where numero in (select top 1 num_venta from lineas where codigo = 1)"_s).bien());
 }
 
 TEST(BinderConsultaTest, TheTablesOfAStatementAreNamedOnce)

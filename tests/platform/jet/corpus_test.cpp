@@ -1,5 +1,4 @@
-#include "platform/jet/corpus.h"
-
+#include "corpus/corpus.h"
 #include "platform/jet/ast/impresor.h"
 #include "platform/jet/catalogo_esquema.h"
 #include "platform/jet/forma.h"
@@ -18,13 +17,14 @@ using namespace Qt::StringLiterals;
 namespace kestrane::jet {
 namespace {
 
-using Destino = SentenciaDelCorpus::Destino;
+using prueba::SentenciaCorpus;
+using Veredicto = SentenciaCorpus::Veredicto;
 
 constexpr Motor Motores[] = {Motor::Sqlite, Motor::PostgreSql, Motor::MariaDb};
 
-std::vector<SentenciaDelCorpus> corpus()
+const std::vector<SentenciaCorpus>& corpus()
 {
-    static const auto leido = leeCorpus(QStringLiteral(CARPETA_CORPUS));
+    static const auto leido = prueba::todasLasSentencias();
     return leido;
 }
 
@@ -61,9 +61,9 @@ protected:
     {
     }
 
-    Resultado<Traduccion, ErrorSql> traduce(const SentenciaDelCorpus& sentencia)
+    Resultado<Traduccion, ErrorSql> traduce(const SentenciaCorpus& sentencia)
     {
-        Catalogo& catalogo = sentencia.base == u"tienda"_s ? m_tienda : m_listados;
+        Catalogo& catalogo = sentencia.base == SentenciaCorpus::Base::Tienda ? m_tienda : m_listados;
         return Traductor{catalogo, GetParam(), ConfiguracionRegional::espania()}.traduce(sentencia.texto);
     }
 
@@ -74,8 +74,8 @@ private:
 
 TEST_P(Corpus, EachStatementThatMustRunIsTranslated)
 {
-    for (const SentenciaDelCorpus& sentencia : corpus()) {
-        if (sentencia.destino != Destino::Corre)
+    for (const SentenciaCorpus& sentencia : corpus()) {
+        if (sentencia.veredicto != Veredicto::Corre)
             continue;
         const auto traduccion = traduce(sentencia);
         EXPECT_TRUE(traduccion.bien()) << qPrintable(sentencia.rotulo()) << '\n'
@@ -85,8 +85,8 @@ TEST_P(Corpus, EachStatementThatMustRunIsTranslated)
 
 TEST_P(Corpus, EachOtherStatementIsRefusedAtTheLatestWhenItsTextsAreBound)
 {
-    for (const SentenciaDelCorpus& sentencia : corpus()) {
-        if (sentencia.destino != Destino::Rehusada)
+    for (const SentenciaCorpus& sentencia : corpus()) {
+        if (sentencia.veredicto != Veredicto::Rehusada)
             continue;
         const auto traduccion = traduce(sentencia);
         if (!traduccion)
@@ -108,7 +108,7 @@ TEST(CorpusTest, EachRefusalPointsIntoTheText)
 {
     CatalogoPrueba tienda = catalogoDe(instalacion::baseTienda(), Motor::Sqlite);
     const Traductor traductor{tienda, Motor::Sqlite, ConfiguracionRegional::espania()};
-    for (const SentenciaDelCorpus& sentencia : corpus()) {
+    for (const SentenciaCorpus& sentencia : corpus()) {
         const auto traduccion = traductor.traduce(sentencia.texto);
         if (traduccion)
             continue;
@@ -122,7 +122,7 @@ TEST(CorpusTest, EachRefusalPointsIntoTheText)
 
 TEST(CorpusTest, PrintedAndParsedAgainEachStatementSaysTheSame)
 {
-    for (const SentenciaDelCorpus& sentencia : corpus()) {
+    for (const SentenciaCorpus& sentencia : corpus()) {
         const auto arbol = parsea(sentencia.texto);
         if (!arbol)
             continue;
@@ -136,7 +136,7 @@ TEST(CorpusTest, PrintedAndParsedAgainEachStatementSaysTheSame)
 TEST(CorpusTest, TheShapeHasTheLiteralsOfTheLexer)
 {
     ExtractorDeForma extractor;
-    for (const SentenciaDelCorpus& sentencia : corpus()) {
+    for (const SentenciaCorpus& sentencia : corpus()) {
         const auto tokens = tokeniza(sentencia.texto);
         if (!tokens)
             continue;

@@ -11,33 +11,6 @@ namespace {
 
 using namespace enlazado;
 
-/// The first two result columns of "select UNA, OTRA from ventas", bound.
-bool iguales(const QString& una, const QString& otra)
-{
-    CatalogoPrueba catalogo = tiendaDePrueba();
-    const auto arbol = parsea(u"select %1, %2 from ventas v, lineas l"_s.arg(una, otra));
-    const auto enlazada = enlaza(arbol.valor(), catalogo);
-    const auto& lista = std::get<Consulta>(enlazada.valor().dato).lista;
-    return enlazado::iguales(*lista[0].expresion, *lista[1].expresion);
-}
-
-TEST(EnlazadoTest, ExpressionsAreEqualWhenTheyMeanTheSameColumns)
-{
-    EXPECT_TRUE(iguales(u"numero"_s, u"V.Numero"_s));
-    EXPECT_TRUE(iguales(u"month(fecha) + pago"_s, u"MONTH(v.fecha) + Pago"_s));
-    EXPECT_TRUE(iguales(u"-total & tipo"_s, u"-v.total & l.tipo"_s));
-    EXPECT_FALSE(iguales(u"v.tienda"_s, u"l.tienda"_s));
-    EXPECT_FALSE(iguales(u"month(fecha)"_s, u"year(fecha)"_s));
-    EXPECT_FALSE(iguales(u"pago + numero"_s, u"pago - numero"_s));
-    EXPECT_FALSE(iguales(u"true"_s, u"false"_s));
-}
-
-TEST(EnlazadoTest, ALiteralIsEqualToNone)
-{
-    EXPECT_FALSE(iguales(u"5"_s, u"5"_s));
-    EXPECT_FALSE(iguales(u"pago + 1"_s, u"pago + 1"_s));
-}
-
 TEST(EnlazadoTest, TypesBelongToFamilies)
 {
     EXPECT_EQ(familiaDe(TipoColumna::Memo), Familia::Texto);

@@ -31,10 +31,34 @@ TEST(ParserConsultaTest, RefusesMoreTablesThanTheLimit)
 
 TEST(ParserConsultaTest, RefusesListsPastTheLimit)
 {
-    const QString mil = u"a"_s + u",a"_s.repeated(limites::ElementosDeLista - 1);
-    EXPECT_TRUE(parsea(u"select %1 from t group by %1 order by %1"_s.arg(mil)).bien());
-    for (const QString& larga : {u"select %1,a from t"_s, u"select a from t group by %1,a"_s, u"select a from t order by %1,a"_s})
-        EXPECT_EQ(parsea(larga.arg(mil)).error().clase, Clase::DemasiadoLargo) << qPrintable(larga);
+    const auto lista = [](int elementos) { return u"a"_s + u",a"_s.repeated(elementos - 1); };
+    const auto clase = [](const QString& sentencia) {
+        const auto arbol = parsea(sentencia);
+        return arbol ? Clase::TextoVacio : arbol.error().clase;
+    };
+    struct Caso
+    {
+        QString sentencia;
+        int caben;
+    };
+    for (const Caso& caso :
+         {Caso{u"select %1 from t"_s, limites::ElementosDeLista}, Caso{u"select a from t group by %1"_s, limites::ClavesDeLista},
+          Caso{u"select a from t order by %1"_s, limites::ClavesDeLista},
+          Caso{u"select a from t where a in (%1)"_s, limites::ElementosDeIn}}) {
+        EXPECT_EQ(clase(caso.sentencia.arg(lista(caso.caben))), Clase::TextoVacio) << qPrintable(caso.sentencia);
+        EXPECT_EQ(clase(caso.sentencia.arg(lista(caso.caben + 1))), Clase::DemasiadoLargo) << qPrintable(caso.sentencia);
+    }
+}
+
+TEST(ParserConsultaTest, RefusesMoreLiteralsThanTheLimit)
+{
+    const QString justas = u"select a from t where a = 1"_s + u" and a = 'x'"_s.repeated(20) +
+                           u" and a in (1%1)"_s.arg(u",1"_s.repeated(limites::Literales - 22));
+    EXPECT_TRUE(parsea(justas).bien());
+    const QString unaMas = justas + u" and a = #03/15/2024#"_s;
+    ASSERT_FALSE(parsea(unaMas).bien());
+    EXPECT_EQ(parsea(unaMas).error().clase, Clase::DemasiadoLargo);
+    EXPECT_EQ(unaMas.mid(parsea(unaMas).error().posicion, parsea(unaMas).error().longitud), u"#03/15/2024#"_s);
 }
 
 TEST(ParserConsultaTest, Lists)

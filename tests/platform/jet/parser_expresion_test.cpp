@@ -93,8 +93,9 @@ TEST(ParserExpresionTest, RefusesSubqueriesOutsideIn)
 TEST(ParserExpresionTest, RefusesNestingAndChainsPastTheLimits)
 {
     const auto parentesis = [](int veces) { return QString(veces, u'(') + u'a' + QString(veces, u')'); };
-    EXPECT_TRUE(parsea(Cabeza + parentesis(limites::Anidamiento - 2)).bien());
-    rehusa(parentesis(limites::Anidamiento), Clase::DemasiadoProfundo, limites::Anidamiento - 1, 1);
+    EXPECT_TRUE(parsea(Cabeza + parentesis(limites::Anidamiento)).bien());
+    rehusa(parentesis(limites::Anidamiento + 1), Clase::DemasiadoProfundo, limites::Anidamiento, 1);
+    EXPECT_TRUE(parsea(Cabeza + u"1+("_s.repeated(limites::Anidamiento) + u'a' + QString(limites::Anidamiento, u')')).bien());
     EXPECT_EQ(parsea(Cabeza + QString(100'000, u'-') + u'5').error().clase, Clase::DemasiadoProfundo);
     EXPECT_EQ(parsea(Cabeza + u"not "_s.repeated(100'000) + u'a').error().clase, Clase::DemasiadoProfundo);
     EXPECT_TRUE(parsea(Cabeza + u"a"_s + u" or a"_s.repeated(limites::ProfundidadArbol - 1)).bien());

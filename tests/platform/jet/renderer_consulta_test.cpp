@@ -20,8 +20,9 @@ TEST(RendererConsultaTest, Joins)
         sqlDe(
             u"select sum(total) from ventas left join (lineas inner join clientes c on lineas.codigo = c.codigo) on numero = num_venta"_s,
             Motor::Sqlite),
-        u"SELECT SUM(t0.\"total\") FROM \"ventas\" AS t0 LEFT JOIN (\"lineas\" AS t1 INNER JOIN \"clientes\" AS t2 ON "
-        "t1.\"codigo\" = t2.\"codigo\") ON t0.\"numero\" = t1.\"num_venta\""_s);
+        u"SELECT SUM(t0.\"total\") FROM \"ventas\" AS t0 LEFT JOIN ((SELECT \"rowid\" AS \"rowid\", * FROM \"lineas\") AS t1 INNER "
+        "JOIN (SELECT \"rowid\" AS \"rowid\", * FROM \"clientes\") AS t2 ON t1.\"codigo\" = t2.\"codigo\") ON t0.\"numero\" = "
+        "t1.\"num_venta\""_s);
 }
 
 TEST(RendererConsultaTest, AQueryOfOneTableGivesItsIdentityLast)
@@ -52,6 +53,19 @@ TEST(RendererConsultaTest, NoKeyStandsTwice)
               u"t0.\"numero\", t0.\"total\", t0.\"rowid\""_s);
     EXPECT_EQ(sqlDe(u"select distinct pago, pago as p from ventas order by pago"_s, Motor::Sqlite).section(u" ORDER BY "_s, 1),
               u"1, 2"_s);
+}
+
+TEST(RendererConsultaTest, TablesOfAJoinInParenthesesKeepTheirRowNumbersOnSqlite)
+{
+    const QString jet =
+        u"select numero from ventas left join (lineas l inner join clientes c on l.codigo = c.codigo) on numero = num_venta"_s;
+    EXPECT_EQ(sqlDe(jet, Motor::Sqlite),
+              u"SELECT t0.\"numero\" FROM \"ventas\" AS t0 LEFT JOIN ((SELECT \"rowid\" AS \"rowid\", * FROM \"lineas\") AS t1 "
+              "INNER JOIN (SELECT \"rowid\" AS \"rowid\", * FROM \"clientes\") AS t2 ON t1.\"codigo\" = t2.\"codigo\") ON "
+              "t0.\"numero\" = t1.\"num_venta\" ORDER BY t0.\"rowid\", t1.\"rowid\", t2.\"rowid\""_s);
+    EXPECT_EQ(sqlDe(jet, Motor::MariaDb),
+              u"SELECT t0.`numero` FROM `ventas` AS t0 LEFT JOIN (`lineas` AS t1 INNER JOIN `clientes` AS t2 ON t1.`codigo` = "
+              "t2.`codigo`) ON t0.`numero` = t1.`num_venta` ORDER BY t0.`orden_`, t1.`orden_`, t2.`orden_`"_s);
 }
 
 } // namespace

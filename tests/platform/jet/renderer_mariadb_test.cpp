@@ -39,10 +39,12 @@ TEST(RendererMariadbTest, LikeEscapesByACharacterThatNoTextHolds)
 
 TEST(RendererMariadbTest, ADivisionByZeroIsAnErrorAndNoNull)
 {
-    expresion(u"total / pago"_s, u"IF(t0.`pago` = 0, POW(0, -1), CAST(t0.`total` AS DOUBLE) / CAST(t0.`pago` AS DOUBLE))"_s);
+    expresion(u"total / pago"_s,
+              u"IF(CAST(t0.`pago` AS DOUBLE) = 0, POW(0, -1), CAST(t0.`total` AS DOUBLE) / CAST(t0.`pago` AS DOUBLE))"_s);
     expresion(u"total \\ pago"_s,
-              u"IF(t0.`pago` = 0, POW(0, -1), CAST(ROUND(t0.`total`) AS SIGNED) DIV CAST(ROUND(t0.`pago`) AS SIGNED))"_s);
-    expresion(u"total mod 2"_s, u"IF(? = 0, POW(0, -1), CAST(ROUND(t0.`total`) AS SIGNED) MOD CAST(ROUND(?) AS SIGNED))"_s);
+              u"IF(t0.`pago` = 0, POW(0, -1), (CAST(ROUND(CAST(t0.`total` AS DOUBLE)) AS SIGNED) * 4294967296 DIV 4294967296) DIV "
+              "t0.`pago`)"_s);
+    expresion(u"numero mod 2"_s, u"IF(? = 0, POW(0, -1), t0.`numero` MOD ?)"_s);
 }
 
 TEST(RendererMariadbTest, ValuesAsTexts)
@@ -82,6 +84,14 @@ TEST(RendererMariadbTest, NullsComeFirstByThemselves)
 {
     EXPECT_EQ(sqlDe(u"select nombre from clientes order by nacimiento, nombre desc"_s, Motor::MariaDb).section(u" ORDER BY "_s, 1),
               u"t0.`nacimiento`, t0.`nombre` DESC, t0.`orden_`"_s);
+}
+
+TEST(RendererMariadbTest, ADoubleIsLookedForAmongDoubles)
+{
+    EXPECT_EQ(condicionDe(u"total in (select numero from ventas)"_s, Motor::MariaDb, u"ventas"_s),
+              u"t0.`total` IN (SELECT CAST(t1.`numero` AS DOUBLE) FROM `ventas` AS t1)"_s);
+    EXPECT_EQ(condicionDe(u"numero in (select total from ventas)"_s, Motor::MariaDb, u"ventas"_s),
+              u"t0.`numero` IN (SELECT t1.`total` FROM `ventas` AS t1)"_s);
 }
 
 } // namespace

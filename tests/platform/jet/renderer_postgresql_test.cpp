@@ -53,7 +53,23 @@ TEST(RendererPostgresqlTest, WholeNumbersAreCountedIn64BitsAndTheRestInDoubles)
     expresion(u"(pago + numero) * 2"_s, u"(CAST(t0.\"pago\" AS bigint) + CAST(t0.\"numero\" AS bigint)) * CAST(? AS bigint)"_s);
     expresion(u"total + 1 - pago"_s, u"t0.\"total\" + CAST(? AS double precision) - CAST(t0.\"pago\" AS double precision)"_s);
     expresion(u"numero / 2"_s, u"CAST(t0.\"numero\" AS double precision) / CAST(? AS double precision)"_s);
-    expresion(u"total \\ 2 mod 3"_s, u"CAST(t0.\"total\" AS bigint) / CAST(? AS bigint) % CAST(? AS bigint)"_s);
+    expresion(
+        u"total \\ 2 mod 3"_s,
+        u"CAST(CAST(CAST(CAST(t0.\"total\" AS integer) AS bigint) / CAST(? AS bigint) AS integer) AS bigint) % CAST(? AS bigint)"_s);
+}
+
+TEST(RendererPostgresqlTest, ANullOfASubqueryHasTheTypeItIsComparedWith)
+{
+    condicion(u"codigo in (select null from lineas)"_s, u"t0.\"codigo\" IN (SELECT CAST(NULL AS integer) FROM \"lineas\" AS t1)"_s);
+    condicion(u"nombre not in (select null from lineas)"_s,
+              u"t0.\"nombre\" NOT IN (SELECT CAST(NULL AS text) FROM \"lineas\" AS t1)"_s);
+}
+
+TEST(RendererPostgresqlTest, ASumOfANullOfNoTypeIsANumber)
+{
+    EXPECT_EQ(sqlDe(u"select sum(null) as s, avg(null) as m from ventas"_s, Motor::PostgreSql),
+              u"SELECT CAST(SUM(CAST(NULL AS double precision)) AS double precision), CAST(AVG(CAST(NULL AS double precision)) AS "
+              "double precision) FROM \"ventas\" AS t0"_s);
 }
 
 TEST(RendererPostgresqlTest, AMarkInADoubleCountIsADouble)

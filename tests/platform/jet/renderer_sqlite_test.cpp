@@ -52,7 +52,7 @@ TEST(RendererSqliteTest, JoiningTakesNullForTheEmptyText)
     expresion(u"tienda & ' ' & total"_s, u"ifnull(t0.\"tienda\", '') || ? || ifnull(texto(t0.\"total\"), '')"_s);
     expresion(u"fecha & null"_s, u"ifnull(texto_fecha(t0.\"fecha\"), '') || ifnull(NULL, '')"_s);
     expresion(u"borrar & ''"_s,
-              u"ifnull(CASE WHEN t0.\"borrar\" <> 0 THEN 'Verdadero' WHEN t0.\"borrar\" = 0 THEN 'Falso' END, '') || ?"_s);
+              u"ifnull(CASE t0.\"borrar\" <> 0 WHEN TRUE THEN 'Verdadero' WHEN FALSE THEN 'Falso' END, '') || ?"_s);
 }
 
 TEST(RendererSqliteTest, MaximaOfTextsGoByTheCollation)

@@ -132,6 +132,41 @@ constexpr CasoNativo CasosMariaDb[] = {
     {1194, Categoria::Danada},          // broken table
 };
 
+/// One line, without the mark at its end: it stands inside a sentence.
+QString enLinea(QString texto)
+{
+    texto = texto.simplified();
+    while (texto.endsWith(u'.') || texto.endsWith(u';'))
+        texto.chop(1);
+    return texto.isEmpty() ? u"sin más explicación"_s : texto;
+}
+
+/// Refusals that all engines tell alike: the state or a fragment of the engine's text, and what is said in its place.
+struct CasoDicho
+{
+    const char16_t* estado;    ///< beginning of the state, nullptr for any
+    const char16_t* fragmento; ///< of the text, nullptr for any
+    const char16_t* frase;
+};
+
+constexpr CasoDicho CasosDichos[] = {
+    {u"22012", nullptr, u"División por cero"},
+    {nullptr, u"'pow(0,-1)'", u"División por cero"}, // what MariaDB's text for a division writes
+    {nullptr, u"integer out of range", u"Desbordamiento"},
+    {nullptr, u"BIGINT value is out of range", u"Desbordamiento"},
+};
+
+/// What the engine says of a statement.
+QString dicho(const Diagnostico& diagnostico)
+{
+    for (const CasoDicho& caso : CasosDichos) {
+        const bool deEstado = !caso.estado || diagnostico.estado.startsWith(QStringView{caso.estado});
+        if (deEstado && (!caso.fragmento || diagnostico.texto.contains(QStringView{caso.fragmento})))
+            return QString::fromUtf16(caso.frase);
+    }
+    return enLinea(diagnostico.texto);
+}
+
 /// %1 the data source, %2 the engine's own text.
 const char16_t* textoDe(Categoria categoria)
 {
@@ -173,15 +208,6 @@ Categoria categoriaMariaDb(const Diagnostico& diagnostico)
     return diagnostico.estado.startsWith("08"_L1) ? Categoria::ConexionPerdida : Categoria::Sentencia;
 }
 
-/// One line, without the mark at its end: it stands inside a sentence.
-QString enLinea(QString texto)
-{
-    texto = texto.simplified();
-    while (texto.endsWith(u'.') || texto.endsWith(u';'))
-        texto.chop(1);
-    return texto.isEmpty() ? u"sin más explicación"_s : texto;
-}
-
 /// The warnings that a driver puts before or behind an error say nothing about it.
 const Diagnostico& elDeMasPeso(std::span<const Diagnostico> diagnosticos, const Diagnostico& ninguno)
 {
@@ -212,7 +238,7 @@ ErrorMotor errorAlEjecutar(jet::Motor motor, std::span<const Diagnostico> diagno
     if (enlace == Enlace::Muerto)
         categoria = Categoria::ConexionPerdida;
     return {categoria, ErrorEjecucion::SentenciaRechazada,
-            QString::fromUtf16(textoDe(categoria)).replace(u"%1"_s, origen.dsn).replace(u"%2"_s, enLinea(diagnostico.texto))};
+            QString::fromUtf16(textoDe(categoria)).replace(u"%1"_s, origen.dsn).replace(u"%2"_s, dicho(diagnostico))};
 }
 
 } // namespace kestrane::database::odbc

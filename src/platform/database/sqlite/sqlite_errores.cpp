@@ -65,7 +65,9 @@ QString ruta(const QString& fichero)
 
 ErrorMotor errorDe(sqlite3* base, int codigo, const QString& fichero, ErrorEjecucion::Numero numero)
 {
-    const QString propio = QString::fromUtf8(base ? sqlite3_errmsg(base) : sqlite3_errstr(codigo));
+    QString propio = QString::fromUtf8(base ? sqlite3_errmsg(base) : sqlite3_errstr(codigo));
+    if (propio.endsWith(u'.'))
+        propio.chop(1); // it stands inside a sentence
     if (codigo == SQLITE_READONLY_DBMOVED)
         return {Categoria::ConexionPerdida, numero,
                 u"El fichero \"%1\" ya no está en su sitio. Abra el programa de nuevo."_s.arg(ruta(fichero))};
