@@ -1,5 +1,4 @@
 #include "platform/jet/binder_interno.h"
-#include "platform/jet/limites.h"
 #include "platform/jet/rechazo.h"
 
 #include <algorithm>
@@ -41,28 +40,6 @@ OrdenFinal ordenFinal(const Consulta& consulta, bool agrupada, UsoDeConsulta uso
     if (consulta.filas == Filas::Distintas)
         return OrdenFinal::PorLista;
     return agrupada ? OrdenFinal::PorGrupos : OrdenFinal::PorFilas;
-}
-
-/// The parser has counted what is written; `*` gives more.
-void compruebaCuantas(size_t columnas, ast::Lugar lugar)
-{
-    if (columnas > static_cast<size_t>(limites::ElementosDeLista))
-        throw Rechazo{{ErrorSql::Clase::DemasiadoLargo,
-                       u"El resultado tiene demasiadas columnas: caben %1."_s.arg(limites::ElementosDeLista), lugar.posicion,
-                       lugar.longitud}};
-}
-
-/// MariaDB cannot limit a sub-query of IN that looks outside; the others could.
-void compruebaLimite(const Consulta& consulta, int primeraTabla, ast::Lugar lugar)
-{
-    const auto esDeFuera = [&](const Expresion& e) {
-        const enlazado::Columna* columna = columnaMostrada(e);
-        return columna && columna->fuente < primeraTabla;
-    };
-    if (consulta.limite && alguna(consulta, esDeFuera))
-        throw Rechazo{{ErrorSql::Clase::SentenciaNoAdmitida,
-                       u"Una consulta de IN que lleva TOP no puede usar columnas de la consulta de fuera."_s, lugar.posicion,
-                       lugar.longitud}};
 }
 
 } // namespace

@@ -100,7 +100,7 @@ enlazado::Familia equipara(std::span<enlazado::ExpresionPtr* const> valores);
 [[nodiscard]] QString nombreDeFamilia(enlazado::Familia familia);
 [[noreturn]] void tiposIncompatibles(const QString& mensaje, ast::Lugar lugar);
 
-// Rules of groups and sort keys (reglas_agrupacion.cpp).
+// Rules of groups, sort keys and results (reglas_agrupacion.cpp).
 
 /// Refuses a column of the query that is neither a group's nor inside an aggregate.
 void compruebaAgrupacion(const enlazado::Expresion& expresion, const enlazado::Consulta& consulta);
@@ -108,6 +108,10 @@ void compruebaAgrupacion(const enlazado::Expresion& expresion, const enlazado::C
 void compruebaQueVarie(const enlazado::Expresion& clave);
 /// Refuses a sort key that uses what the result does not show, unless it is a plain column.
 void compruebaClave(const enlazado::Expresion& clave, const enlazado::Consulta& consulta);
+/// Refuses a result of too many columns: the parser has counted what is written, `*` gives more.
+void compruebaCuantas(size_t columnas, ast::Lugar lugar);
+/// Refuses TOP in a sub-query that uses a table read before `primeraTabla`, which is one outside.
+void compruebaLimite(const enlazado::Consulta& consulta, int primeraTabla, ast::Lugar lugar);
 /// Turns DISTINCT into groups where that keeps the oldest spelling of texts.
 void agrupaDistintas(enlazado::Consulta& consulta, const std::vector<const Tabla*>& tablas);
 /// Whether the oldest spelling of this column can be asked for.

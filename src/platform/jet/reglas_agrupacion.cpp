@@ -1,4 +1,5 @@
 #include "platform/jet/binder_interno.h"
+#include "platform/jet/limites.h"
 #include "platform/jet/rechazo.h"
 
 #include <algorithm>
@@ -65,6 +66,27 @@ void compruebaClave(const Expresion& clave, const Consulta& consulta)
     throw Rechazo{{ErrorSql::Clase::ClaveDeOrdenFueraDelResultado,
                    u"Una condición o cuenta de ORDER BY solo puede usar columnas que estén en la lista de SELECT."_s,
                    clave.lugar.posicion, clave.lugar.longitud}};
+}
+
+void compruebaCuantas(size_t columnas, ast::Lugar lugar)
+{
+    if (columnas > static_cast<size_t>(limites::ElementosDeLista))
+        throw Rechazo{{ErrorSql::Clase::DemasiadoLargo,
+                       u"El resultado tiene demasiadas columnas: caben %1."_s.arg(limites::ElementosDeLista), lugar.posicion,
+                       lugar.longitud}};
+}
+
+void compruebaLimite(const Consulta& consulta, int primeraTabla, ast::Lugar lugar)
+{
+    // MariaDB cannot limit it; the others could.
+    const auto esDeFuera = [&](const Expresion& e) {
+        const enlazado::Columna* columna = columnaMostrada(e);
+        return columna && columna->fuente < primeraTabla;
+    };
+    if (consulta.limite && alguna(consulta, esDeFuera))
+        throw Rechazo{{ErrorSql::Clase::SentenciaNoAdmitida,
+                       u"Una consulta de IN que lleva TOP no puede usar columnas de la consulta de fuera."_s, lugar.posicion,
+                       lugar.longitud}};
 }
 
 bool tieneGrafia(enlazado::Columna columna, const std::vector<const Tabla*>& tablas)
