@@ -38,6 +38,8 @@ constexpr OpcionLinea Lista[] = {
     {u"semilla", u"N", u"semilla de la tienda de demostración; si no se indica, 1"},
     {u"hoy", u"AAAA-MM-DD", u"último día con ventas de la tienda de demostración; si no se indica, 2024-06-14"},
     {u"terminal", u"NOMBRE", u"terminal de la tienda de demostración; si no se indica, el nombre de este equipo"},
+    {u"terminal-de", u"TIENDA",
+     u"tienda de ese terminal, una de las de la tienda de demostración; si no se indica, la central, \"Servidor\""},
     {u"ayuda", nullptr, u"muestra esta ayuda, como -h y --help"},
 };
 
@@ -87,6 +89,13 @@ bool pon(const QCommandLineParser& linea, const QString& opcion, Dato& destino, 
     return leido.has_value();
 }
 
+QString sinTienda(const QString& tienda, const QStringList& tiendas)
+{
+    if (tiendas.isEmpty())
+        return u"No hay ninguna tienda \"%1\": en un día hay una sola, sin nombre."_s.arg(tienda);
+    return u"No hay ninguna tienda \"%1\" de ese tipo y tamaño: %2."_s.arg(tienda, tiendas.join(u", "_s));
+}
+
 /// The options of the demo shop; a sentence when one has a value that it does not take.
 QString leeDemo(const QCommandLineParser& linea, demo::Parametros& parametros)
 {
@@ -100,13 +109,16 @@ QString leeDemo(const QCommandLineParser& linea, demo::Parametros& parametros)
         return u"El día \"%1\" no vale: escríbalo como 2024-06-14, de 1990 en adelante."_s.arg(linea.value(u"hoy"_s));
     if (linea.isSet(u"terminal"_s))
         parametros.terminal = linea.value(u"terminal"_s);
+    if (!pon(linea, u"terminal-de"_s, parametros.tiendaDelTerminal,
+             [&](const QString& valor) { return demo::tiendaDeTexto(valor, parametros); }))
+        return sinTienda(linea.value(u"terminal-de"_s), demo::nombresDeTiendas(parametros));
     return {};
 }
 
 /// The first option of the demo shop that is there, "" when there is none.
 QString opcionDeDemo(const QCommandLineParser& linea)
 {
-    for (const QString& opcion : {u"tipo"_s, u"tamano"_s, u"semilla"_s, u"hoy"_s, u"terminal"_s}) {
+    for (const QString& opcion : {u"tipo"_s, u"tamano"_s, u"semilla"_s, u"hoy"_s, u"terminal"_s, u"terminal-de"_s}) {
         if (linea.isSet(opcion))
             return opcion;
     }

@@ -33,6 +33,10 @@ TEST(OpcionesCrearTienda, WhatMakesNoSenseIsRefusedWithASentence)
     EXPECT_EQ(rechazo({u"--vacia=si"_s, u"--reemplazar"_s}), "--vacia no lleva valor.");
     EXPECT_EQ(rechazo({u"--datos"_s, u""_s}), "A --datos le falta su valor.");
     EXPECT_EQ(rechazo({u"--vacia"_s, u"--motor"_s}), "A --motor le falta su valor.");
+    EXPECT_EQ(rechazo({u"--tipo"_s, u"TPV"_s, u"--terminal-de"_s, u"Sur"_s}),
+              "No hay ninguna tienda \"Sur\" de ese tipo y tamaño: Centro, Gran Centro.");
+    EXPECT_EQ(rechazo({u"--tamano"_s, u"dia"_s, u"--terminal-de"_s, u"Centro"_s}),
+              "No hay ninguna tienda \"Centro\": en un día hay una sola, sin nombre.");
     EXPECT_EQ(rechazo({u"otra"_s}), "No se sabe qué hacer con \"otra\".");
 }
 
@@ -77,6 +81,8 @@ TEST(OpcionesCrearTienda, TheDemoShopIsDescribedByItsOptions)
     EXPECT_EQ(demo.semilla, 7U);
     EXPECT_EQ(demo.hoy, *Fecha::deCalendario(2023, 5, 2));
     EXPECT_EQ(demo.terminal, u"caja2"_s);
+    EXPECT_EQ(demo.tiendaDelTerminal, u""_s);
+    EXPECT_EQ(lee({u"--terminal-de"_s, u"Norte"_s}).valor().demo.tiendaDelTerminal, u"Norte"_s);
 }
 
 } // namespace

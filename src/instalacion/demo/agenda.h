@@ -2,6 +2,9 @@
 
 #include "instalacion/demo/negocio.h"
 
+#include <optional>
+#include <vector>
+
 namespace kestrane::demo {
 
 /// The appointment book: visits that were booked, clients who did not come, cancelled appointments, and the weeks to come.
@@ -10,6 +13,8 @@ class Agenda
 public:
     Agenda(Negocio& negocio, Azar azar);
 
+    /// A store's day begins; `tienda` must outlive it.
+    void abreDia(const QString& tienda, Fecha fecha);
     /// A sale whose client may have booked it.
     void atendida(const Venta& venta);
     /// Those of the day who did not come, and what was cancelled.
@@ -29,11 +34,25 @@ private:
         const QString& tienda;
     };
 
+    /// Time of an employee that is taken, in seconds since midnight.
+    struct Hueco
+    {
+        int empleado = 0;
+        int desde = 0;
+        int hasta = 0;
+    };
+
     void escribe(const Cita& cita);
-    [[nodiscard]] Cita nueva(int numeroTienda, const QString& tienda, Fecha fecha);
+    [[nodiscard]] std::optional<Cita> nueva(int numeroTienda, const Turnantes& turno);
+    [[nodiscard]] bool libre(int empleado, int desde, int minutos) const;
+    [[nodiscard]] int hueco(int empleado, int limite, int minutos) const;
 
     Negocio& m_negocio;
     Azar m_azar;
+    const QString* m_tienda = nullptr;
+    Fecha m_fecha;
+    std::vector<Hueco> m_ocupado; // of the day
+    int m_citas = 0;
 };
 
 } // namespace kestrane::demo

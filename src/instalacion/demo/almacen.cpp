@@ -11,6 +11,9 @@ namespace {
 
 constexpr int Martes = 2;
 constexpr int Jueves = 4;
+constexpr double Paquete = 4; // units that are taken out for internal use at a time
+constexpr double PocoDentro = 1;
+constexpr double MuchoDentro = 6;
 constexpr qint16 OtroTipo = 2; // the other side of a movement, which no report of movements reads
 
 Valor numeroONulo(int numero)
@@ -24,9 +27,10 @@ Almacen::Almacen(Negocio& negocio, Azar azar) : m_negocio{negocio}, m_azar{azar}
 
 void Almacen::apunta(const Articulo& articulo, const Apunte& apunte, Fecha fecha, const QString& tienda)
 {
-    m_negocio.destino.fila(tablas::Historicostock, {{articulo.codigo, articulo.nombre, apunte.cantidad, articulo.coste.enEuros(),
-                                                     apunte.tipo, qint16{apunte.movimiento}, fecha, numeroONulo(apunte.pedido),
-                                                     numeroONulo(apunte.ticket), apunte.empleado, tienda}});
+    m_negocio.destino.fila(tablas::Historicostock,
+                           {{articulo.codigo, articulo.nombre, apunte.cantidad, articulo.coste.enEuros(), apunte.tipo,
+                             qint16{apunte.movimiento}, fecha, numeroONulo(apunte.pedido), numeroONulo(apunte.ticket),
+                             apunte.empleado, tienda.isNull() ? Valor{} : Valor{tienda}}});
 }
 
 void Almacen::mueve(const Linea& linea, double cantidad)
@@ -76,6 +80,20 @@ void Almacen::cierraDia(const Turno& turno)
         cuenta(turno, Inventario, 12);
     if (turno.esHoy || m_azar.porMil(280))
         usaDentro(turno);
+    if (turno.esHoy || m_azar.porMil(12))
+        deLoBorrado(turno);
+}
+
+/// The last of an article whose card is gone.
+void Almacen::deLoBorrado(const Turno& turno)
+{
+    Articulo borrado;
+    borrado.codigo = static_cast<int>(m_negocio.catalogo.articulos().size()) + 2;
+    borrado.nombre = QStringLiteral("Artículo sin ficha");
+    borrado.coste = Dinero::euros(3);
+    for (const Movimiento movimiento : {Regularizacion, AProveedor})
+        apunta(borrado, {.movimiento = movimiento, .cantidad = -1, .empleado = turno.empleados.front()->codigo}, turno.dia.fecha,
+               turno.tienda.nombre);
 }
 
 /// What is short comes in; on a day when nothing is, a small box of something now and then.
@@ -143,25 +161,36 @@ Articulo& Almacen::unoDe(ClaseProducto clase)
     return todos[lugar];
 }
 
+/// Material that the house uses up: a package goes from the shelves to the work room when little is left there.
 void Almacen::usaDentro(const Turno& turno)
 {
-    Articulo& ambos = unoDe(ClaseProducto::Ambos);
-    Articulo& interno = unoDe(ClaseProducto::ConsumoInterno);
+    Articulo& gastado = unoDe(m_azar.porCien(75) ? ClaseProducto::ConsumoInterno : ClaseProducto::Ambos);
+    const double cuanto = m_azar.entre(1, 2);
+    if (turno.esHoy || gastado.consumoInterno < cuanto + PocoDentro)
+        traspasa(gastado, Paquete, turno);
+    gastado.consumoInterno = std::max(0.0, gastado.consumoInterno - cuanto);
     const int quien = m_azar.elige(turno.empleados)->codigo;
-    const int pasa = m_azar.entre(1, 3);
+    apunta(gastado, {.movimiento = BajaDeConsumo, .cantidad = -cuanto, .empleado = quien}, turno.dia.fecha, turno.tienda.nombre);
+    Articulo& ambos = unoDe(ClaseProducto::Ambos);
+    const bool sobra = ambos.consumoInterno > MuchoDentro && m_azar.porCien(50);
+    if (turno.esHoy && ambos.consumoInterno < 2)
+        traspasa(ambos, Paquete, turno);
+    if (turno.esHoy || sobra)
+        traspasa(ambos, -1, turno);
+}
+
+/// Units that go from the shelves to internal use, or back when there are fewer than none.
+void Almacen::traspasa(Articulo& articulo, double unidades, const Turno& turno)
+{
+    const Movimiento movimiento = unidades > 0 ? AConsumoInterno : DeConsumoInterno;
+    const int quien = m_azar.elige(turno.empleados)->codigo;
+    const QString& tienda = turno.tienda.nombre;
     const Fecha fecha = turno.dia.fecha;
-    apunta(ambos, {.movimiento = AConsumoInterno, .cantidad = -1.0 * pasa, .empleado = quien}, fecha, turno.tienda.nombre);
-    apunta(ambos, {.movimiento = AConsumoInterno, .cantidad = 1.0 * pasa, .tipo = OtroTipo, .empleado = quien}, fecha,
-           turno.tienda.nombre);
-    ambos.stock -= pasa;
-    ambos.consumoInterno += pasa;
-    apunta(interno, {.movimiento = BajaDeConsumo, .cantidad = -1, .empleado = quien}, fecha, turno.tienda.nombre);
-    interno.consumoInterno = std::max(1.0, interno.consumoInterno - 1);
-    if (!turno.esHoy && !m_azar.porCien(20))
-        return;
-    apunta(ambos, {.movimiento = DeConsumoInterno, .cantidad = 1, .empleado = quien}, fecha, turno.tienda.nombre);
-    ambos.stock += 1;
-    ambos.consumoInterno = std::max(1.0, ambos.consumoInterno - 1);
+    apunta(articulo, {.movimiento = movimiento, .cantidad = -unidades, .empleado = quien}, fecha, tienda);
+    if (unidades > 0)
+        apunta(articulo, {.movimiento = movimiento, .cantidad = unidades, .tipo = OtroTipo, .empleado = quien}, fecha, tienda);
+    articulo.stock -= unidades;
+    articulo.consumoInterno += unidades;
 }
 
 } // namespace kestrane::demo

@@ -44,6 +44,8 @@ private:
     [[nodiscard]] double llegan(Articulo& articulo);
     void cuenta(const Turno& turno, Movimiento movimiento, int articulos);
     void usaDentro(const Turno& turno);
+    void traspasa(Articulo& articulo, double unidades, const Turno& turno);
+    void deLoBorrado(const Turno& turno);
     [[nodiscard]] Articulo& unoDe(ClaseProducto clase);
 
     Negocio& m_negocio;

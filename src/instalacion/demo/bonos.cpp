@@ -12,7 +12,7 @@ constexpr int Validez = 180;
 
 } // namespace
 
-void Bonos::vende(const Venta& venta, int servicio, int pack, int sesiones)
+Bonos::Bono& Bonos::nuevo(const Venta& venta, int servicio, int pack, int sesiones)
 {
     Bono bono;
     bono.numero = m_numeros.bono++;
@@ -24,9 +24,20 @@ void Bonos::vende(const Venta& venta, int servicio, int pack, int sesiones)
     bono.alta = venta.fecha;
     bono.hasta = venta.fecha.masDias(bono.numero % 5 == 0 ? Validez / 3 : Validez);
     bono.tienda = venta.tienda;
-    m_deCliente.insert(bono.cliente, m_bonos.size());
-    m_deFactura.insert(bono.factura, m_bonos.size());
-    m_bonos.push_back(std::move(bono));
+    return m_bonos.emplace_back(std::move(bono));
+}
+
+void Bonos::vende(const Venta& venta, int servicio, int pack, int sesiones)
+{
+    m_deCliente.insert(venta.cliente, m_bonos.size());
+    m_deFactura.insert(venta.numero, m_bonos.size());
+    nuevo(venta, servicio, pack, sesiones);
+}
+
+void Bonos::vendeAnulado(const Venta& venta, int servicio, int pack, int sesiones)
+{
+    Bono& bono = nuevo(venta, servicio, pack, sesiones);
+    bono.hasta = bono.alta;
 }
 
 Bonos::Bono* Bonos::vigente(int cliente, Fecha fecha)
@@ -70,6 +81,18 @@ void Bonos::consume(Destino& destino, Bono& bono, const Venta& venta)
 {
     ++bono.usadas;
     destino.fila(tablas::DetalleBono, {{bono.numero, venta.fecha, venta.lineas.front().empleado, venta.tienda}});
+}
+
+bool Bonos::intacto(int factura) const
+{
+    const auto lugar = m_deFactura.constFind(factura);
+    return lugar != m_deFactura.constEnd() && m_bonos[*lugar].usadas == 0;
+}
+
+bool Bonos::intactoSpa(int cliente) const
+{
+    const auto suyo = m_spa.constFind(cliente);
+    return suyo != m_spa.constEnd() && suyo->dado == 0;
 }
 
 bool Bonos::cancela(int factura)

@@ -32,6 +32,8 @@ public:
 
     /// Exactly one of the positions is not -1.
     void vende(const Venta& venta, int servicio, int pack, int sesiones);
+    /// The bono of a sale that was annulled: it lapsed at once.
+    void vendeAnulado(const Venta& venta, int servicio, int pack, int sesiones);
     /// The client's bono with sessions left, bought before `fecha`; null when there is none.
     [[nodiscard]] Bono* vigente(int cliente, Fecha fecha);
     /// True when the client has sessions or days left that were bought before `fecha`.
@@ -39,6 +41,9 @@ public:
     /// Clients of a store who have something prepaid left, some of them.
     [[nodiscard]] std::vector<int> titulares(const QString& tienda, Fecha fecha) const;
     void consume(Destino& destino, Bono& bono, const Venta& venta);
+    /// Whether a bono, or a spa pack, could be given back: none of it has been used.
+    [[nodiscard]] bool intacto(int factura) const;
+    [[nodiscard]] bool intactoSpa(int cliente) const;
     /// A bono that was given back; false when it has been used already or there is none of that sale.
     bool cancela(int factura);
 
@@ -59,6 +64,8 @@ private:
         Fecha alta;
         QString tienda;
     };
+
+    Bono& nuevo(const Venta& venta, int servicio, int pack, int sesiones);
 
     Numeradores& m_numeros;
     std::vector<Bono> m_bonos;

@@ -6,26 +6,36 @@ namespace kestrane::demo {
 
 namespace {
 
-/// What shops pay out of the drawer, in quarters from and to.
+constexpr unsigned Salones = 1U << static_cast<unsigned>(Oficio::Salon);
+constexpr unsigned Tiendas = 1U << static_cast<unsigned>(Oficio::Comercio) | 1U << static_cast<unsigned>(Oficio::TallaColor);
+constexpr unsigned Comida = 1U << static_cast<unsigned>(Oficio::Alimentacion);
+constexpr unsigned Todos = Salones | Tiendas | Comida;
+
+/// What shops pay out of the drawer, in quarters from and to, and which.
 struct Gasto
 {
     QStringView motivo;
     int desde;
     int hasta;
+    unsigned quienes;
 };
 
-constexpr Gasto gastos[] = {{u"Productos de limpieza", 24, 88},
-                            {u"Café y agua para el personal", 10, 52},
-                            {u"Mensajería", 26, 60},
-                            {u"Papelería y rollos de caja", 18, 70},
-                            {u"Reparación de persiana", 160, 340},
-                            {u"Bombillas y pequeño material", 16, 64},
-                            {u"Taxi para entrega", 24, 56},
-                            {u"Flores para el mostrador", 40, 100},
-                            {u"Propina a repartidores", 8, 20},
-                            {u"Recibo de la asociación de comerciantes", 100, 100},
-                            {u"Lavandería", 48, 120},
-                            {u"Cristalero", 180, 320}};
+constexpr Gasto gastos[] = {{u"Productos de limpieza", 24, 88, Todos},
+                            {u"Café y agua para el personal", 10, 52, Salones | Tiendas},
+                            {u"Mensajería", 26, 60, Todos},
+                            {u"Papelería y rollos de caja", 18, 70, Todos},
+                            {u"Reparación de persiana", 160, 340, Todos},
+                            {u"Bombillas y pequeño material", 16, 64, Todos},
+                            {u"Taxi para entrega", 24, 56, Tiendas},
+                            {u"Flores para el mostrador", 40, 100, Salones},
+                            {u"Revistas para la sala de espera", 12, 32, Salones},
+                            {u"Propina a repartidores", 8, 20, Tiendas | Comida},
+                            {u"Recibo de la asociación de comerciantes", 100, 100, Todos},
+                            {u"Lavandería de toallas y batas", 48, 120, Salones},
+                            {u"Hielo y bolsas", 12, 40, Comida},
+                            {u"Afilado de cuchillos", 40, 72, Comida},
+                            {u"Perchas y cinta de embalar", 20, 60, Tiendas},
+                            {u"Cristalero", 180, 320, Todos}};
 
 constexpr QStringView observaciones[] = {u"Falta cambio en monedas de 1 y 2 euros",
                                          u"Descuadre de 2 euros al cierre",
@@ -35,25 +45,28 @@ constexpr QStringView observaciones[] = {u"Falta cambio en monedas de 1 y 2 euro
                                          u"Billete de 50 dudoso, se ha retirado",
                                          u"Cierre realizado por la tarde, mañana sin incidencias",
                                          u"Se ha pedido cambio al banco",
-                                         u"Avería de la luz de 12 a 13 horas",
+                                         u"Avería de la luz durante una hora",
                                          u"Cuadre correcto"};
 
 constexpr QStringView observacionMesMalo = u"Obras en la calle: muy poca gente hoy";
 
-constexpr int UnidadDeRetirada = 40; // ten of the currency, in quarters
+constexpr Dinero Cambio = Dinero::euros(120);   // is left in the drawer for the next day
+constexpr Dinero CambioMin = Dinero::euros(40); // with less the bank is asked for change
+constexpr int UnidadDeRetirada = 40;            // ten of the currency, in quarters
 
 } // namespace
 
-Caja::Caja(Negocio& negocio, Azar azar) : m_negocio{negocio}, m_azar{azar} {}
+Caja::Caja(Negocio& negocio, Azar azar) : m_negocio{negocio}, m_azar{azar}, m_cajones(negocio.tiendas.size(), Cambio) {}
 
 void Caja::cierraDia(const Turno& turno, Dinero efectivo)
 {
-    const Dinero inicial{400 + 100 * m_azar.hasta(5)};
+    Dinero& cajon = m_cajones[static_cast<std::size_t>(turno.tienda.numero)];
     m_negocio.destino.fila(tablas::CajaInicial,
-                           {{turno.dia.fecha, turno.tienda.nombre, inicial.enEuros(), turno.empleados.front()->codigo}});
-    const Dinero gastado = gasta(turno);
-    if (turno.dia.detalle == Detalle::Entero)
-        retira(turno, efectivo - gastado);
+                           {{turno.dia.fecha, turno.tienda.nombre, cajon.enEuros(), turno.empleados.front()->codigo}});
+    cajon += efectivo - gasta(turno);
+    cajon -= retira(turno, cajon - Cambio);
+    if (cajon < CambioMin)
+        cajon = Cambio;
     if (turno.esHoy || m_azar.porMil(110))
         observa(turno);
 }
@@ -63,26 +76,38 @@ Dinero Caja::gasta(const Turno& turno)
     Dinero suma;
     const int cuantos = turno.esHoy ? 2 : m_azar.porCien(35) ? 1 : 0;
     for (int i = 0; i < cuantos; ++i) {
-        const Gasto& gasto = m_azar.elige(gastos);
-        const Dinero importe{m_azar.entre(gasto.desde, gasto.hasta)};
+        const Gasto* gasto = &m_azar.elige(gastos);
+        while ((gasto->quienes >> static_cast<unsigned>(m_negocio.sabor.oficio) & 1U) == 0)
+            gasto = &m_azar.elige(gastos);
+        const Dinero importe{m_azar.entre(gasto->desde, gasto->hasta)};
         const auto horas = m_negocio.calendario.horas(turno.dia.fecha, 1, m_azar);
-        m_negocio.destino.fila(tablas::Gastos,
-                               {{turno.dia.fecha, m_azar.porCien(97) ? Valor{horaDe(horas.front())} : Valor{}, turno.tienda.nombre,
-                                 gasto.motivo, importe.enEuros(), m_azar.elige(turno.empleados)->codigo}});
+        m_negocio.destino.fila(tablas::Gastos, {{turno.dia.fecha, m_azar.porCien(97) ? Valor{horaDe(horas.front())} : Valor{},
+                                                 turno.tienda.nombre, gasto->motivo, importe.enEuros(), quienGasta(turno)}});
         suma += importe;
     }
     return suma;
 }
 
-void Caja::retira(const Turno& turno, Dinero enCaja)
+/// The card of someone who spent now and then is gone.
+int Caja::quienGasta(const Turno& turno)
 {
-    const int decenas = enCaja.cuartos * 4 / 5 / UnidadDeRetirada;
+    return m_gastos++ % 9 == 4 ? EmpleadoSinFicha : m_azar.elige(turno.empleados)->codigo;
+}
+
+/// What is more than the change for tomorrow is taken out in tens, in two turns when it is much. Returns how much.
+Dinero Caja::retira(const Turno& turno, Dinero sobra)
+{
+    const int decenas = sobra.cuartos / UnidadDeRetirada;
     const int veces = decenas > 60 ? 2 : 1;
-    for (int i = 0; i < veces && decenas >= 3; ++i) {
+    const int minimo = turno.esHoy ? 1 : 3;
+    Dinero suma;
+    for (int i = 0; i < veces && decenas >= minimo; ++i) {
         const Dinero importe{decenas / veces * UnidadDeRetirada};
-        m_negocio.destino.fila(tablas::Retiradas,
-                               {{turno.dia.fecha, turno.tienda.nombre, importe.enEuros(), turno.empleados.front()->codigo}});
+        const int quien = m_retiradas++ % 13 == 6 ? EmpleadoSinFicha : turno.empleados.front()->codigo;
+        m_negocio.destino.fila(tablas::Retiradas, {{turno.dia.fecha, turno.tienda.nombre, importe.enEuros(), quien}});
+        suma += importe;
     }
+    return suma;
 }
 
 void Caja::observa(const Turno& turno)

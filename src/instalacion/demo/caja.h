@@ -15,11 +15,15 @@ public:
 
 private:
     Dinero gasta(const Turno& turno);
-    void retira(const Turno& turno, Dinero enCaja);
+    [[nodiscard]] Dinero retira(const Turno& turno, Dinero sobra);
     void observa(const Turno& turno);
+    [[nodiscard]] int quienGasta(const Turno& turno);
 
     Negocio& m_negocio;
     Azar m_azar;
+    std::vector<Dinero> m_cajones; // what each store has in its drawer
+    int m_gastos = 0;
+    int m_retiradas = 0;
 };
 
 } // namespace kestrane::demo

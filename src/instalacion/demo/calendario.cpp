@@ -18,7 +18,9 @@ struct DiaDelAnio
     int dia;
 };
 
-constexpr DiaDelAnio fiestas[] = {{1, 1}, {1, 6}, {5, 1}, {8, 15}, {10, 12}, {11, 1}, {12, 6}, {12, 8}, {12, 25}};
+/// Of the country and of Valencia.
+constexpr DiaDelAnio fiestas[] = {{1, 1},  {1, 6},   {1, 22}, {3, 19}, {5, 1},  {6, 24}, {8, 15},
+                                  {10, 9}, {10, 12}, {11, 1}, {12, 6}, {12, 8}, {12, 25}};
 
 /// Weeks in which goods sell better than their month.
 struct Campana
@@ -34,7 +36,8 @@ constexpr Campana campanas[] = {{1, 2, 5, 150}, {2, 10, 14, 120}, {5, 1, 6, 115}
 bool esFiesta(Fecha fecha)
 {
     const auto igual = [fecha](const DiaDelAnio& fiesta) { return fiesta.mes == fecha.mes() && fiesta.dia == fecha.dia(); };
-    return std::ranges::any_of(fiestas, igual) || fecha == domingoDePascua(fecha.anio()).masDias(-2);
+    const Fecha pascua = domingoDePascua(fecha.anio());
+    return std::ranges::any_of(fiestas, igual) || fecha == pascua.masDias(-2) || fecha == pascua.masDias(1);
 }
 
 Ruleta ruletaDeMinutos(const Horario& horario, const std::array<int, 24>& pesos)
@@ -72,14 +75,14 @@ Fecha domingoDePascua(int anio)
 Calendario::Calendario(const Parametros& parametros, const Sabor& datos)
     : m_sabor{datos}
     , m_hoy{parametros.hoy}
+    , m_primerEntero{parametros.hoy.masDias(1 - diasEnteros(parametros.tamano))}
+    , m_todosLosDias{parametros.tamano == Tamano::Mes}
     , m_minutos{ruletaDeMinutos(datos.ritmo.laborable, datos.ritmo.horas), ruletaDeMinutos(datos.ritmo.sabado, datos.ritmo.horas),
                 ruletaDeMinutos(datos.ritmo.domingo, datos.ritmo.horas)}
 {
-    const int enteros = diasEnteros(parametros.tamano);
-    const Fecha primero = m_hoy.masDias(1 - enteros);
-    anadeMuestra(primero);
-    for (int i = 0; i < enteros; ++i)
-        m_dias.push_back({primero.masDias(i), Detalle::Entero});
+    anadeMuestra(m_primerEntero);
+    for (Fecha fecha = m_primerEntero; fecha <= m_hoy; fecha = fecha.masDias(1))
+        m_dias.push_back({fecha, Detalle::Entero});
 }
 
 int Calendario::diasEnteros(Tamano tamano) const
@@ -101,8 +104,11 @@ void Calendario::anadeMuestra(Fecha primeroEntero)
 {
     for (int dias = DiasDeMuestra; dias > 0; --dias) {
         const Fecha fecha = m_hoy.masDias(-dias);
-        if (fecha < primeroEntero && (fecha.dia() == 9 || fecha.dia() == 22))
-            m_dias.push_back({proximoAbierto(fecha, 0), Detalle::Muestra});
+        const bool senalado = fecha.dia() == 9 || fecha.dia() == 22;
+        if (fecha < primeroEntero && m_todosLosDias)
+            m_dias.push_back({fecha, Detalle::Muestra, senalado});
+        else if (fecha < primeroEntero && senalado)
+            m_dias.push_back({proximoAbierto(fecha, 0), Detalle::Muestra, true});
     }
     std::erase_if(m_dias, [primeroEntero](const DiaNegocio& dia) { return dia.fecha >= primeroEntero; });
 }
@@ -158,6 +164,8 @@ double Calendario::actividad(Fecha fecha) const
                 factor *= campana.porCiento * 0.01;
         }
     }
+    if (m_sabor.tipo == TipoTienda::Panaderia && fecha.mes() == 1 && fecha.dia() == 5)
+        factor *= 2.2; // everybody eats roscón the next morning
     const int diasAtras = m_hoy.diaDeSerie() - fecha.diaDeSerie();
     return factor * (1.03 - 0.06 * diasAtras / 365.0);
 }
@@ -169,6 +177,19 @@ std::vector<int> Calendario::horas(Fecha fecha, int tickets, Azar& azar) const
     std::ranges::generate(resultado, [&] { return ruleta.gira(azar) * 60 + azar.hasta(60); });
     std::ranges::sort(resultado);
     return resultado;
+}
+
+bool Calendario::atiende(Fecha fecha, int desde, int hasta) const
+{
+    const Horario& suyo = estaAbierto(horario(fecha)) ? horario(fecha) : m_sabor.ritmo.laborable;
+    return std::ranges::any_of(suyo, [=](const Franja& franja) { return franja.desde <= desde && hasta <= franja.hasta; });
+}
+
+bool Calendario::hayRebajas(Fecha fecha) const
+{
+    const bool ropa = m_sabor.oficio == Oficio::Comercio || m_sabor.oficio == Oficio::TallaColor;
+    const bool invierno = (fecha.mes() == 1 && fecha.dia() >= 7) || fecha.mes() == 2;
+    return ropa && (invierno || fecha.mes() == 7 || (fecha.mes() == 8 && fecha.dia() <= 20));
 }
 
 int Calendario::apertura(Fecha fecha) const

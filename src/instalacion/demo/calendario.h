@@ -22,6 +22,7 @@ struct DiaNegocio
 {
     Fecha fecha;
     Detalle detalle = Detalle::Entero;
+    bool conRarezas = false; // of the few sales one is of a rare kind
 };
 
 /// When a shop is open and how busy it is: weekdays, public holidays, seasons, growth, the August closing, and one bad month.
@@ -33,6 +34,8 @@ public:
     /// The days to tell, ascending; the last is today. Days on which every store is closed are in it too.
     [[nodiscard]] const std::vector<DiaNegocio>& dias() const { return m_dias; }
     [[nodiscard]] Fecha hoy() const { return m_hoy; }
+    /// The first day that is told whole.
+    [[nodiscard]] Fecha primerEntero() const { return m_primerEntero; }
     /// Days from the first to `fecha`.
     [[nodiscard]] int indice(Fecha fecha) const { return fecha.diaDeSerie() - m_dias.front().fecha.diaDeSerie(); }
     [[nodiscard]] int longitud() const { return indice(m_hoy) + 1; }
@@ -49,6 +52,10 @@ public:
 
     /// Seconds since midnight of so many tickets, ascending.
     [[nodiscard]] std::vector<int> horas(Fecha fecha, int tickets, Azar& azar) const;
+    /// True when it is open from one minute of the day to another, without a break.
+    [[nodiscard]] bool atiende(Fecha fecha, int desde, int hasta) const;
+    /// The sales: weeks of great discounts in the shops.
+    [[nodiscard]] bool hayRebajas(Fecha fecha) const;
     /// Minute of the first opening on that weekday.
     [[nodiscard]] int apertura(Fecha fecha) const;
 
@@ -60,6 +67,8 @@ private:
 
     const Sabor& m_sabor;
     Fecha m_hoy;
+    Fecha m_primerEntero;
+    bool m_todosLosDias = false; // of the time before, not only two a month
     std::vector<DiaNegocio> m_dias;
     std::array<Ruleta, 3> m_minutos; // working days, Saturday, Sunday
 };

@@ -50,10 +50,14 @@ Linea& Carrito::anade(TipoLinea tipo, int codigo, const QString& texto, int iva,
     linea.precio = porUnidades(unitario, unidades);
     const auto titular = std::ranges::find(m_turno.empleados, m_venta.empleado, &Empleado::codigo);
     const bool suya = titular != m_turno.empleados.end() && !m_azar.porCien(Otro);
-    const Empleado& quien = suya ? **titular : *m_azar.elige(m_turno.empleados);
+    firma(linea, suya ? **titular : *m_azar.elige(m_turno.empleados));
+    return linea;
+}
+
+void Carrito::firma(Linea& linea, const Empleado& quien)
+{
     linea.empleado = quien.codigo;
     linea.nombreEmpleado = quien.enElTicket;
-    return linea;
 }
 
 Linea& Carrito::servicio(int posicion, TipoLinea tipo, int sesiones)
@@ -65,7 +69,11 @@ Linea& Carrito::servicio(int posicion, TipoLinea tipo, int sesiones)
     if (tipo == TipoLinea::B)
         precio = precioDeBono(suyo.precio, sesiones);
     const bool gratis = tipo != TipoLinea::S && tipo != TipoLinea::B;
-    return anade(tipo, suyo.codigo, suyo.nombre, gratis && m_venta.cliente % 2 == 0 ? 0 : suyo.datos->iva, precio, 1);
+    Linea& linea = anade(tipo, suyo.codigo, suyo.nombre, gratis && m_venta.cliente % 2 == 0 ? 0 : suyo.datos->iva, precio, 1);
+    if (tipo != TipoLinea::B) // which is sold, not worked
+        firma(linea, m_negocio.plantilla.atiende(m_turno.empleados, suyo.datos->seccion, suyo.datos->minutos,
+                                                 m_azar.porCien(Otro) ? -1 : m_venta.gusto, m_azar));
+    return linea;
 }
 
 double Carrito::unidadesUsuales(int posicion)
@@ -122,6 +130,27 @@ Linea& Carrito::deposito(Dinero importe)
     return anade(TipoLinea::S, CodigoIngresoDeposito, u"Ingreso en Depósito"_s, 0, importe, 1);
 }
 
+void Carrito::encargo(qsizetype desde, qsizetype hasta)
+{
+    const auto& articulos = m_negocio.catalogo.articulos();
+    std::vector<int> pedidos;
+    qsizetype largo = 0;
+    for (int intentos = 0; largo < desde && intentos < 4000; ++intentos) {
+        if (intentos % 80 == 79) { // a blind alley
+            pedidos.clear();
+            largo = 0;
+        }
+        const int posicion = m_negocio.catalogo.sorteaArticulo(m_venta.fecha, m_azar);
+        const qsizetype otro = articulos[static_cast<std::size_t>(posicion)].nombre.size() + (pedidos.empty() ? 0 : 3);
+        if (largo + otro > hasta || std::ranges::find(pedidos, posicion) != pedidos.end())
+            continue;
+        pedidos.push_back(posicion);
+        largo += otro;
+    }
+    for (const int posicion : pedidos)
+        articulo(posicion, 1);
+}
+
 void Carrito::limita(Dinero importe)
 {
     while (m_venta.lineas.size() > 1 && m_venta.total() > importe)
@@ -130,7 +159,9 @@ void Carrito::limita(Dinero importe)
 
 void Carrito::descuenta()
 {
-    constexpr std::array tantos{5, 10, 10, 15, 20};
+    constexpr std::array deSiempre{5, 10, 10, 15, 20};
+    constexpr std::array deRebajas{20, 20, 30, 40, 50};
+    const auto& tantos = m_negocio.calendario.hayRebajas(m_venta.fecha) ? deRebajas : deSiempre;
     for (Linea& linea : m_venta.lineas) {
         if (linea.precio < Compartible || linea.codigo == CodigoIngresoDeposito)
             continue;

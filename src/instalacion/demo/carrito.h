@@ -25,9 +25,12 @@ public:
     Linea& packSpa(int posicion);
     Linea& deposito(Dinero importe);
 
+    /// A large order: articles until their names, joined by " / ", are from `desde` to `hasta` characters long.
+    void encargo(qsizetype desde, qsizetype hasta);
+
     /// Leaves out the last lines until the sale costs no more than `importe`, but for the first.
     void limita(Dinero importe);
-    /// Takes something off one line.
+    /// Takes something off one line, more in the sales.
     void descuenta();
     /// Gives one line to two or three employees; false when no line or no staff is fit for it.
     bool comparte();
@@ -36,6 +39,7 @@ public:
 
 private:
     Linea& anade(TipoLinea tipo, int codigo, const QString& texto, int iva, Dinero unitario, double unidades);
+    void firma(Linea& linea, const Empleado& quien);
     void reparte(Linea& linea, int entre);
 
     const Negocio& m_negocio;

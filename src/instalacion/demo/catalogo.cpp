@@ -2,20 +2,26 @@
 
 #include "instalacion/demo/nombres.h"
 
+#include <algorithm>
+
 namespace kestrane::demo {
 
 namespace {
 
-constexpr DatosTalla tallas[] = {
-    {u"Extra pequeña", u"XS"}, {u"Pequeña", u"S"},    {u"Mediana", u"M"},    {u"Grande", u"L"},     {u"Extra grande", u"XL"},
-    {u"Doble XL", u"XXL"},     {u"Talla 36", u"36"},  {u"Talla 38", u"38"},  {u"Talla 40", u"40"},  {u"Talla 42", u"42"},
-    {u"Talla 44", u"44"},      {u"Talla 46", u"46"},  {u"Número 24", u"24"}, {u"Número 26", u"26"}, {u"Número 28", u"28"},
-    {u"Número 30", u"30"},     {u"Número 32", u"32"}, {u"Número 34", u"34"}, {u"Número 35", u"35"}, {u"Número 36", u"36"},
-    {u"Número 37", u"37"},     {u"Número 38", u"38"}, {u"Número 39", u"39"}, {u"Número 40", u"40"}, {u"Número 41", u"41"},
-    {u"Número 42", u"42"},     {u"Número 43", u"43"}, {u"Número 44", u"44"}, {u"Número 45", u"45"}, {u"Talla única", u"U"}};
+constexpr DatosTalla tallas[] = {{u"Extra pequeña", u"XS"}, {u"Pequeña", u"S"},     {u"Mediana", u"M"},    {u"Grande", u"L"},
+                                 {u"Extra grande", u"XL"},  {u"Doble XL", u"XXL"},  {u"Talla 36", u"36"},  {u"Talla 38", u"38"},
+                                 {u"Talla 40", u"40"},      {u"Talla 42", u"42"},   {u"Talla 44", u"44"},  {u"Talla 46", u"46"},
+                                 {u"Número 24", u"24"},     {u"Número 26", u"26"},  {u"Número 28", u"28"}, {u"Número 30", u"30"},
+                                 {u"Número 32", u"32"},     {u"Número 34", u"34"},  {u"Número 35", u"35"}, {u"Número 36", u"36"},
+                                 {u"Número 37", u"37"},     {u"Número 38", u"38"},  {u"Número 39", u"39"}, {u"Número 40", u"40"},
+                                 {u"Número 41", u"41"},     {u"Número 42", u"42"},  {u"Número 43", u"43"}, {u"Número 44", u"44"},
+                                 {u"Número 45", u"45"},     {u"Talla única", u"U"}, {u"4 años", u"4A"},    {u"6 años", u"6A"},
+                                 {u"8 años", u"8A"},        {u"10 años", u"10A"},   {u"12 años", u"12A"},  {u"14 años", u"14A"}};
 
 constexpr QStringView colores[] = {u"Negro", u"Blanco", u"Azul Marino", u"Rojo",    u"Marrón", u"Beige",
                                    u"Gris",  u"Verde",  u"Rosa Palo",   u"Burdeos", u"Camel",  u"Estampado"};
+
+constexpr int MasEnReyes = 60; // times
 
 /// First and last size code of a range.
 struct Intervalo
@@ -31,6 +37,8 @@ Intervalo intervalo(Tallaje tallaje)
         return {1, 6};
     case Tallaje::Pantalon:
         return {7, 12};
+    case Tallaje::RopaNino:
+        return {31, 36};
     case Tallaje::ZapatoNino:
         return {13, 18};
     case Tallaje::ZapatoMujer:
@@ -46,12 +54,13 @@ Intervalo intervalo(Tallaje tallaje)
 /// Weight of a season in a month, in tenths.
 int decimos(Temporada temporada, int mes)
 {
-    constexpr std::array<std::array<int, 12>, 6> tabla{{{10, 10, 10, 10, 10, 10, 10, 10, 10, 10, 10, 10},
+    constexpr std::array<std::array<int, 12>, 7> tabla{{{10, 10, 10, 10, 10, 10, 10, 10, 10, 10, 10, 10},
                                                         {1, 1, 3, 7, 16, 22, 24, 20, 10, 4, 1, 1},
                                                         {20, 18, 10, 6, 2, 1, 1, 2, 8, 16, 22, 24},
                                                         {20, 0, 0, 0, 0, 0, 0, 0, 0, 0, 6, 60},
                                                         {0, 0, 0, 0, 0, 0, 0, 0, 0, 20, 30, 0},
-                                                        {0, 8, 30, 30, 0, 0, 0, 0, 0, 0, 0, 0}}};
+                                                        {0, 8, 30, 30, 0, 0, 0, 0, 0, 0, 0, 0},
+                                                        {0, 2, 20, 40, 40, 6, 0, 0, 0, 0, 0, 0}}};
     return tabla[static_cast<std::size_t>(temporada)][static_cast<std::size_t>(mes - 1)];
 }
 
@@ -132,6 +141,11 @@ void Catalogo::cargaArticulos(Azar& azar)
             pesos.push_back(articulo.seVende() ? articulo.datos->peso * decimos(articulo.datos->temporada, mes) : 0);
         m_ruletaArticulos[static_cast<std::size_t>(mes - 1)] = Ruleta{pesos};
     }
+    std::vector<int> deReyes;
+    for (const Articulo& articulo : m_articulos)
+        deReyes.push_back((articulo.seVende() ? articulo.datos->peso * decimos(articulo.datos->temporada, 1) : 0) *
+                          (articulo.datos->temporada == Temporada::Navidad ? MasEnReyes : 1));
+    m_ruletaReyes = Ruleta{deReyes};
 }
 
 void Catalogo::cargaVariantes(Articulo& articulo, Azar& azar) const
@@ -157,8 +171,27 @@ void Catalogo::cargaVariantes(Articulo& articulo, Azar& azar) const
     }
 }
 
+int Catalogo::minutosDe(int codigo) const
+{
+    const auto cual = std::ranges::find(m_servicios, codigo, &Servicio::codigo);
+    return cual == m_servicios.end() ? 0 : cual->datos->minutos;
+}
+
+bool Catalogo::esPara(Publico publico, int posicion) const
+{
+    const Publico suyo = m_servicios[static_cast<std::size_t>(posicion)].datos->publico;
+    return suyo == Publico::Todos || suyo == publico;
+}
+
+bool Catalogo::esPara(Publico publico, const Pack& pack) const
+{
+    return std::ranges::all_of(pack.servicios, [=, this](int servicio) { return esPara(publico, servicio); });
+}
+
 int Catalogo::sorteaArticulo(Fecha fecha, Azar& azar) const
 {
+    if (fecha.mes() == 1 && fecha.dia() >= 3 && fecha.dia() <= 6)
+        return m_ruletaReyes.gira(azar);
     return m_ruletaArticulos[static_cast<std::size_t>(fecha.mes() - 1)].gira(azar);
 }
 

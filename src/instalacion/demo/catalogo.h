@@ -74,6 +74,12 @@ public:
     [[nodiscard]] const std::vector<int>& serviciosConBono() const { return m_serviciosConBono; }
     [[nodiscard]] const std::vector<int>& packsConBono() const { return m_packsConBono; }
 
+    /// How long a service takes, by its code.
+    [[nodiscard]] int minutosDe(int codigo) const;
+    /// Whether a service, or all of a pack, is for such people.
+    [[nodiscard]] bool esPara(Publico publico, int posicion) const;
+    [[nodiscard]] bool esPara(Publico publico, const Pack& pack) const;
+
     /// Positions, drawn by how often each is asked for, articles by the season too.
     [[nodiscard]] int sorteaArticulo(Fecha fecha, Azar& azar) const;
     [[nodiscard]] int sorteaServicio(Publico publico, Azar& azar) const;
@@ -91,6 +97,7 @@ private:
     std::vector<int> m_serviciosConBono;
     std::vector<int> m_packsConBono;
     std::array<Ruleta, 12> m_ruletaArticulos; // by month
+    Ruleta m_ruletaReyes;                     // the days before the sixth of January
     Ruleta m_ruletaMujer;
     Ruleta m_ruletaHombre;
 };

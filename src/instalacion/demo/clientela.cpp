@@ -11,6 +11,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int Gustos = 5040;              // divides evenly among up to ten employees
+constexpr int PorCientoDelIntervalo = 60; // before it nobody drops in
 constexpr qint32 NuncaSeVa = 1000000;
 constexpr double DiasAbiertos = 0.78; // share of days open, with some slack
 
@@ -25,11 +27,15 @@ int clientesPorTienda(const Parametros& parametros, const Ritmo& ritmo)
 
 QString Cliente::nombreDePila() const
 {
+    if (esEmpresa())
+        return juntos(u"Comercial", apellidos()[static_cast<std::size_t>(apellido1)]);
     return (mujer ? nombresDeMujer() : nombresDeHombre())[static_cast<std::size_t>(nombre)].toString();
 }
 
 QString Cliente::apellidosJuntos() const
 {
+    if (esEmpresa())
+        return u"S.L."_s;
     return juntos(apellidos()[static_cast<std::size_t>(apellido1)], apellidos()[static_cast<std::size_t>(apellido2)]);
 }
 
@@ -49,6 +55,15 @@ Clientela::Clientela(const Parametros& parametros, const Catalogo& catalogo, con
     }
 }
 
+/// Nobody is in the habit of what is asked for once in a lifetime: of some services the most usual.
+int Clientela::habito(Publico publico, Azar& azar) const
+{
+    const auto peso = [this](int posicion) { return m_catalogo.servicios()[static_cast<std::size_t>(posicion)].datos->peso; };
+    std::array<int, 3> sorteados{};
+    std::ranges::generate(sorteados, [&] { return m_catalogo.sorteaServicio(publico, azar); });
+    return std::ranges::max(sorteados, {}, peso);
+}
+
 void Clientela::alta(int tienda, Azar& azar)
 {
     const Sabor& datos = m_catalogo.sabor();
@@ -61,16 +76,19 @@ void Clientela::alta(int tienda, Azar& azar)
         static_cast<qint16>(azar.hasta(static_cast<int>((cliente.mujer ? nombresDeMujer() : nombresDeHombre()).size())));
     cliente.apellido1 = static_cast<qint16>(azar.hasta(static_cast<int>(apellidos().size())));
     cliente.apellido2 = static_cast<qint16>(azar.hasta(static_cast<int>(apellidos().size())));
+    cliente.gusto = static_cast<qint16>(azar.hasta(Gustos));
     cliente.intervalo = std::max(2, datos.ritmo.intervalo * azar.entre(45, 170) / 100);
     cliente.diaPreferido = azar.entre(1, 6);
-    std::ranges::generate(cliente.habituales, [&] { return m_catalogo.sorteaServicio(cliente.publico(), azar); });
+    std::ranges::generate(cliente.habituales, [&] { return habito(cliente.publico(), azar); });
     const Fecha primero = m_calendario.dias().front().fecha;
     const bool nuevo = azar.porCien(24);
-    cliente.ingreso = nuevo ? primero.masDias(azar.hasta(m_calendario.longitud())) : primero.masDias(-azar.entre(30, 2600));
+    cliente.ingreso = m_calendario.proximoAbierto(
+        nuevo ? primero.masDias(azar.hasta(m_calendario.longitud())) : primero.masDias(-azar.entre(30, 2600)), tienda);
     cliente.hasta = Fecha::deSerie(NuncaSeVa, 0);
     if (!nuevo && azar.porCien(18))
         cliente.hasta = primero.masDias(azar.hasta(m_calendario.longitud() * 4 / 5 + 1) - m_calendario.longitud() / 6);
-    programa(cliente, nuevo ? cliente.ingreso : primero.masDias(azar.hasta(cliente.intervalo)));
+    const Fecha entero = m_calendario.primerEntero();
+    programa(cliente, cliente.ingreso > entero ? cliente.ingreso : entero.masDias(azar.hasta(cliente.intervalo)));
     m_porTienda[static_cast<std::size_t>(tienda)].push_back(cliente.codigo);
     m_clientes.push_back(cliente);
 }
@@ -103,15 +121,16 @@ std::vector<Cliente*> Clientela::visitantes(int tienda, const DiaNegocio& dia, i
         }
         esperados = {};
     }
-    completa(llegan, tienda, dia.fecha, (maximo * 9 + 9) / 10);
+    completa(llegan, tienda, dia.fecha, (maximo * (dia.detalle == Detalle::Entero ? 8 : 10) + 9) / 10);
     return llegan;
 }
 
 void Clientela::completa(std::vector<Cliente*>& llegan, int tienda, Fecha fecha, int maximo)
 {
-    for (int intentos = 0; static_cast<int>(llegan.size()) < maximo && intentos < 2 * maximo; ++intentos) {
+    for (int intentos = 0; static_cast<int>(llegan.size()) < maximo && intentos < 3 * maximo; ++intentos) {
         Cliente* uno = cualquiera(tienda, fecha);
-        if (uno->ultimaVisita == fecha || uno->ingreso > fecha || uno->hasta < fecha)
+        const bool haPoco = fecha < uno->ultimaVisita.masDias(uno->intervalo * PorCientoDelIntervalo / 100);
+        if (uno->ultimaVisita == fecha || uno->ingreso > fecha || uno->hasta < fecha || (haPoco && intentos < 2 * maximo))
             continue;
         uno->ultimaVisita = fecha;
         llegan.push_back(uno);
@@ -138,6 +157,11 @@ Cliente* Clientela::conDeposito(int tienda)
             rico = &uno;
     }
     return rico;
+}
+
+int Clientela::codigoSinFicha()
+{
+    return static_cast<int>(m_clientes.size()) + m_azar.entre(1, 9);
 }
 
 Cliente* Clientela::ausente(int tienda, Fecha fecha)

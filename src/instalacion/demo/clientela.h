@@ -25,8 +25,11 @@ struct Cliente
     Fecha ultimaVisita; // the zero date: none yet
     Fecha hasta;        // does not come after this day
     Dinero deposito;
+    qint16 gusto = 0; // which of a store's employees the client is used to
 
     [[nodiscard]] Publico publico() const { return mujer ? Publico::Mujer : Publico::Hombre; }
+    /// Others who buy for a business do so in their own name.
+    [[nodiscard]] bool esEmpresa() const { return profesional && codigo % 2 == 0; }
     [[nodiscard]] QString nombreDePila() const;
     [[nodiscard]] QString apellidosJuntos() const;
 };
@@ -48,6 +51,8 @@ public:
     [[nodiscard]] Cliente* conDeposito(int tienda);
     [[nodiscard]] const Cliente& cliente(int codigo) const { return m_clientes[static_cast<std::size_t>(codigo - 1)]; }
     [[nodiscard]] Cliente& cliente(int codigo) { return m_clientes[static_cast<std::size_t>(codigo - 1)]; }
+    /// A code of the cards that were removed, some of several.
+    [[nodiscard]] int codigoSinFicha();
     [[nodiscard]] const std::vector<Cliente>& todos() const { return m_clientes; }
 
     /// The table `clientes`; `tiendas` are the stores' names.
@@ -55,6 +60,7 @@ public:
 
 private:
     void alta(int tienda, Azar& azar);
+    [[nodiscard]] int habito(Publico publico, Azar& azar) const;
     void programa(const Cliente& cliente, Fecha desde);
     void completa(std::vector<Cliente*>& visitantes, int tienda, Fecha fecha, int maximo);
 

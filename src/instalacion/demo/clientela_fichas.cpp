@@ -16,7 +16,7 @@ Valor quiza(int porCien, Valor valor, Azar& azar)
 
 Valor nacimiento(const Cliente& cliente, Azar& azar)
 {
-    if (azar.porMil(110))
+    if (cliente.esEmpresa() || azar.porMil(110))
         return Nulo{};
     if (azar.porMil(12))
         return Fecha{}; // the day that an empty date field left behind
@@ -56,10 +56,11 @@ void Clientela::escribe(Destino& destino, const std::vector<QString>& tiendas) c
     for (const Cliente& uno : m_clientes) {
         Azar azar = m_azarFichas.rama(static_cast<quint64>(uno.codigo));
         const Poblacion& poblacion = poblaciones()[static_cast<std::size_t>(azar.porCien(70) ? azar.hasta(3) : azar.hasta(8))];
-        const bool borrado = uno.ultimaVisita == Fecha{} && uno.deposito == Dinero{} && azar.porCien(12);
+        const bool nuncaVino = uno.ultimaVisita == Fecha{};
+        const bool borrado = uno.deposito == Dinero{} && (nuncaVino ? azar.porCien(12) : uno.codigo % 43 == 17);
         destino.fila(tablas::Clientes,
                      {{uno.codigo, quiza(98, QString::number(uno.codigo).rightJustified(5, u'0'), azar), uno.nombreDePila(),
-                       uno.apellidosJuntos(), quiza(uno.profesional ? 100 : 62, uno.profesional ? cif(azar) : nif(azar), azar),
+                       uno.apellidosJuntos(), quiza(uno.profesional ? 100 : 62, uno.esEmpresa() ? cif(azar) : nif(azar), azar),
                        quiza(88, direccion(azar), azar), quiza(92, poblacion.cp, azar), quiza(94, poblacion.nombre, azar),
                        quiza(94, poblacion.provincia, azar), quiza(55, telefonoFijo(poblacion.prefijo, azar), azar),
                        quiza(86, telefonoMovil(azar), azar), correoDe(uno, azar), quiza(97, uno.ingreso, azar),

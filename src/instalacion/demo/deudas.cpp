@@ -16,7 +16,7 @@ constexpr int PrimerPlazoMax = 45; // days
 
 Deudas::Deudas(Negocio& negocio, Azar azar) : m_negocio{negocio}, m_azar{azar}, m_plazos(negocio.tiendas.size()) {}
 
-void Deudas::apunta(const Venta& venta)
+Deudas::Deuda& Deudas::nueva(const Venta& venta, Dinero importe)
 {
     Deuda deuda;
     deuda.numero = m_negocio.numeros.pago++;
@@ -24,11 +24,25 @@ void Deudas::apunta(const Venta& venta)
     deuda.cliente = venta.cliente;
     deuda.empleado = venta.empleado;
     deuda.numeroTienda = venta.numeroTienda;
-    deuda.importe = m_azar.porCien(60) ? venta.total() : Dinero{std::max(1, venta.total().cuartos / 2)};
+    deuda.importe = importe;
     deuda.fecha = venta.fecha;
     deuda.tienda = venta.tienda;
-    m_deudas.push_back(std::move(deuda));
-    programa(m_deudas.size() - 1);
+    deuda.aCuenta = venta.aCuenta;
+    return m_deudas.emplace_back(std::move(deuda));
+}
+
+Dinero Deudas::apunta(const Venta& venta)
+{
+    const bool entera = venta.aCuenta || m_azar.porCien(60);
+    const Dinero abierto = nueva(venta, entera ? venta.total() : Dinero{std::max(1, venta.total().cuartos / 2)}).importe;
+    if (!venta.aCuenta)
+        programa(m_deudas.size() - 1);
+    return abierto;
+}
+
+void Deudas::apuntaAnulada(const Venta& venta)
+{
+    nueva(venta, venta.total()).anulada = true;
 }
 
 void Deudas::programa(std::size_t cual)
@@ -55,7 +69,20 @@ Dinero Deudas::cobra(const Turno& turno)
         efectivo += paga(suyos.begin()->second, turno);
         suyos.erase(suyos.begin());
     }
-    return efectivo;
+    return turno.esHoy ? efectivo + pagaParte(turno) : efectivo;
+}
+
+/// The last large order that was taken on account, today's left out, is paid in part.
+Dinero Deudas::pagaParte(const Turno& turno)
+{
+    const auto cual = std::find_if(m_deudas.rbegin(), m_deudas.rend(), [&](const Deuda& deuda) {
+        return deuda.aCuenta && deuda.pagado < deuda.importe && deuda.numeroTienda == turno.tienda.numero &&
+               deuda.fecha < turno.dia.fecha;
+    });
+    if (cual == m_deudas.rend())
+        return {};
+    const auto lugar = static_cast<std::size_t>(m_deudas.rend() - cual) - 1;
+    return paga({lugar, Dinero{std::max(1, (cual->importe - cual->pagado).cuartos / 3)}}, turno);
 }
 
 /// Someone pays today, so that the day's report has its block: an old debt, or else one of this very day.
@@ -63,14 +90,16 @@ void Deudas::anticipa(const Turno& turno)
 {
     auto& suyos = m_plazos[static_cast<std::size_t>(turno.tienda.numero)];
     const auto abierta = [&](const Deuda& deuda) {
-        return deuda.numeroTienda == turno.tienda.numero && deuda.pagado < deuda.importe;
+        return deuda.numeroTienda == turno.tienda.numero && deuda.pagado < deuda.importe && !deuda.anulada && !deuda.aCuenta;
     };
     const auto cual = std::ranges::find_if(m_deudas, abierta);
     if (cual == m_deudas.end())
         return;
     const auto lugar = static_cast<std::size_t>(cual - m_deudas.begin());
     std::erase_if(suyos, [lugar](const auto& plazo) { return plazo.second.deuda == lugar; });
-    suyos.insert({turno.dia.fecha, {lugar, cual->importe - cual->pagado}});
+    const Dinero resto = cual->importe - cual->pagado;
+    const bool unica = std::find_if(cual + 1, m_deudas.end(), abierta) == m_deudas.end(); // one stays open
+    suyos.insert({turno.dia.fecha, {lugar, unica && resto.cuartos > 1 ? Dinero{resto.cuartos / 2} : resto}});
 }
 
 Dinero Deudas::paga(const Plazo& plazo, const Turno& turno)
@@ -78,10 +107,8 @@ Dinero Deudas::paga(const Plazo& plazo, const Turno& turno)
     Deuda& deuda = m_deudas[plazo.deuda];
     deuda.pagado += plazo.importe;
     const int tirada = m_azar.hasta(100);
-    const FormaPago forma = tirada < 52                                ? Efectivo
-                            : tirada < 84                              ? Tarjeta
-                            : tirada < 94 && plazo.importe.cuartos > 8 ? Dividido
-                                                                       : Bizum;
+    const bool dividido = m_pagos++ % 5 == 2 && plazo.importe.cuartos > 8;
+    const FormaPago forma = dividido ? Dividido : tirada < 56 ? Efectivo : tirada < 92 ? Tarjeta : Bizum;
     Dinero efectivo = forma == Efectivo ? plazo.importe : Dinero{};
     if (forma == Dividido)
         efectivo = Dinero{plazo.importe.cuartos / 2};
@@ -95,7 +122,7 @@ Dinero Deudas::paga(const Plazo& plazo, const Turno& turno)
 void Deudas::escribe() const
 {
     for (const Deuda& deuda : m_deudas) {
-        const bool saldada = deuda.pagado == deuda.importe;
+        const bool saldada = deuda.anulada || deuda.pagado == deuda.importe;
         m_negocio.destino.fila(tablas::CabeceraPago, {{deuda.numero, deuda.factura, deuda.cliente, deuda.empleado,
                                                        deuda.importe.enEuros(), deuda.fecha, qint16{saldada}, deuda.tienda}});
     }

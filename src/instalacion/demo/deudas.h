@@ -12,8 +12,11 @@ class Deudas
 public:
     Deudas(Negocio& negocio, Azar azar);
 
-    /// A sale of which half or all stays open. It must have a client.
-    void apunta(const Venta& venta);
+    /// A sale of which half or all stays open (all when it was taken on account, and that is never paid). It must have a client.
+    /// Returns what stays open.
+    Dinero apunta(const Venta& venta);
+    /// The same of a sale that was annulled: the debt is settled, and nobody has paid it.
+    void apuntaAnulada(const Venta& venta);
     /// The payments that come in on a day. Returns the cash among them.
     Dinero cobra(const Turno& turno);
     /// The table of debts, as it stands.
@@ -31,6 +34,8 @@ private:
         Dinero pagado;
         Fecha fecha;
         QString tienda;
+        bool anulada = false;
+        bool aCuenta = false; // a large order: paid by and by
     };
     struct Plazo
     {
@@ -38,12 +43,15 @@ private:
         Dinero importe;
     };
 
+    Deuda& nueva(const Venta& venta, Dinero importe);
     void programa(std::size_t cual);
     void anticipa(const Turno& turno);
+    [[nodiscard]] Dinero pagaParte(const Turno& turno);
     Dinero paga(const Plazo& plazo, const Turno& turno);
 
     Negocio& m_negocio;
     Azar m_azar;
+    int m_pagos = 0;
     std::vector<Deuda> m_deudas;
     std::vector<std::multimap<Fecha, Plazo>> m_plazos; // by store
 };

@@ -8,57 +8,40 @@ namespace kestrane::demo {
 
 namespace {
 
-constexpr std::size_t Memoria = 24; // sales remembered per store
-constexpr int SeRecuerda = 15;      // percent of sales
-constexpr int SiLlevaArticulo = 60; // percent of those with goods
-
-bool devoluble(const Linea& linea)
-{
-    const bool deDeposito = linea.tipo == TipoLinea::S && linea.codigo == CodigoIngresoDeposito;
-    const bool otra = linea.tipo == TipoLinea::CB || linea.tipo == TipoLinea::CBF || linea.tipo == TipoLinea::CSF;
-    return !deDeposito && !otra && linea.tipo != TipoLinea::CPSPA && linea.precio >= Dinero{};
-}
+constexpr std::size_t Memoria = 60; // sales remembered per store
+constexpr int PorDia = 4;           // of them
+constexpr int PlazoMax = 45;        // days
+constexpr int PlazoMin = 2;
+constexpr int LoRaro = 35; // percent of returns that are of a kind long not seen
+constexpr Dinero MuyBarato = Dinero::euros(2);
 
 bool esBono(const Linea& linea)
 {
     return linea.tipo == TipoLinea::B || linea.tipo == TipoLinea::BF;
 }
 
-/// One unit of several, with its part of the tax.
-void dejaUna(Linea& linea)
+bool esIngreso(const Linea& linea)
 {
-    linea.precio = linea.unitario;
-    linea.impuesto = Dinero{static_cast<qint32>(linea.impuesto.cuartos / linea.unidades)};
-    linea.impuesto2 = Dinero{};
-    linea.unidades = 1;
+    return linea.tipo == TipoLinea::S && linea.codigo == CodigoIngresoDeposito;
+}
+
+bool esPaquete(const Linea& linea)
+{
+    return linea.tipo != TipoLinea::S && linea.tipo != TipoLinea::P;
+}
+
+/// A part of a line's units, with its part of the price and of the tax.
+Linea parte(const Linea& linea, double unidades)
+{
+    Linea suya = linea;
+    suya.unidades = unidades;
+    suya.precio = Dinero::euros(linea.unitario.enEuros() * unidades);
+    suya.impuesto = Dinero{static_cast<qint32>(linea.impuesto.cuartos * unidades / linea.unidades)};
+    suya.impuesto2 = Dinero{};
+    return suya;
 }
 
 } // namespace
-
-void Vales::emite(int factura, Fecha fecha, Dinero importe)
-{
-    if (m_vales.size() % 5 != 3)
-        m_pendientes.push_back(m_vales.size()); // the others lie in a drawer at home
-    m_vales.push_back({factura, fecha, importe, 0});
-}
-
-bool Vales::gasta(const Venta& venta)
-{
-    const auto cabe = [&](std::size_t i) { return m_vales[i].importe <= venta.total() && m_vales[i].desde < venta.fecha; };
-    const auto cual = std::ranges::find_if(m_pendientes, cabe);
-    if (cual == m_pendientes.end())
-        return false;
-    m_vales[*cual].aplicado = venta.numero;
-    m_pendientes.erase(cual);
-    return true;
-}
-
-void Vales::escribe(Destino& destino) const
-{
-    for (const Vale& vale : m_vales)
-        destino.fila(tablas::ValesDescuento,
-                     {{vale.factura, vale.desde, vale.importe.enEuros(), vale.aplicado > 0 ? Valor{vale.aplicado} : Valor{}}});
-}
 
 Devoluciones::Devoluciones(Negocio& negocio, Bonos& bonos, Vales& vales, Azar azar)
     : m_negocio{negocio}
@@ -66,80 +49,204 @@ Devoluciones::Devoluciones(Negocio& negocio, Bonos& bonos, Vales& vales, Azar az
     , m_vales{vales}
     , m_azar{azar}
     , m_recientes(negocio.tiendas.size())
+    , m_talonarios(negocio.tiendas.size())
 {
+}
+
+/// Nobody brings back half a kilo of fish, or a loaf.
+bool Devoluciones::devoluble(const Linea& linea) const
+{
+    if (linea.precio < Dinero{})
+        return false;
+    if (linea.articulo < 0 || m_negocio.sabor.oficio != Oficio::Alimentacion)
+        return true;
+    return linea.unitario >= MuyBarato && !m_negocio.catalogo.articulos()[static_cast<std::size_t>(linea.articulo)].porPeso();
 }
 
 void Devoluciones::apunta(const Venta& venta)
 {
-    auto& suyas = m_recientes[static_cast<std::size_t>(venta.numeroTienda)];
-    const bool interesa = venta.total() > Dinero{} && std::ranges::any_of(venta.lineas, devoluble);
-    const bool conArticulo = std::ranges::any_of(venta.lineas, [](const Linea& linea) { return linea.tipo == TipoLinea::P; });
-    if (!interesa || (suyas.size() >= 4 && !m_azar.porCien(conArticulo ? SiLlevaArticulo : SeRecuerda)))
+    const auto puede = [this](const Linea& linea) { return devoluble(linea); };
+    if (venta.tienda.isNull() || venta.esDevolucion || !std::ranges::any_of(venta.lineas, puede))
         return;
-    suyas.push_back(venta);
+    auto& suyas = m_recientes[static_cast<std::size_t>(venta.numeroTienda)];
+    const bool conArticulo = std::ranges::any_of(venta.lineas, [](const Linea& linea) { return linea.tipo == TipoLinea::P; });
+    const bool especial = std::ranges::any_of(venta.lineas, [](const Linea& linea) {
+        return esPaquete(linea) || esIngreso(linea) || !linea.reparto.empty() || !linea.reparto.empty();
+    });
+    const int tantas = 1000 * PorDia / m_negocio.sabor.ritmo.ticketsDia;
+    const bool interesa =
+        especial || venta.pago == Dividido || venta.pago == Deposito || m_azar.porMil(conArticulo ? tantas : tantas / 4);
+    if (!interesa && suyas.size() >= 4)
+        return;
+    suyas.push_back({venta, false});
     if (suyas.size() > Memoria)
         suyas.pop_front();
+}
+
+bool Devoluciones::sePuede(const Venta& venta) const
+{
+    const bool escasos = m_negocio.parametros.tamano == Tamano::Dia; // what was paid before is needed for today
+    for (const Linea& linea : venta.lineas) {
+        if (escasos && (esBono(linea) || linea.tipo == TipoLinea::PSPA || esIngreso(linea)))
+            return false;
+        if (esBono(linea) && !m_bonos.intacto(venta.numero))
+            return false;
+        if (linea.tipo == TipoLinea::PSPA && !m_bonos.intactoSpa(venta.cliente))
+            return false;
+        if (esIngreso(linea) && m_negocio.clientela.cliente(venta.cliente).deposito < linea.precio)
+            return false;
+    }
+    return true;
+}
+
+std::vector<Devoluciones::Rareza> Devoluciones::rarezas(const Recuerdo& recuerdo) const
+{
+    std::vector<Rareza> suyas;
+    for (const Linea& linea : recuerdo.venta.lineas)
+        suyas.push_back(esIngreso(linea)        ? IngresoEnDeposito
+                        : linea.reparto.empty() ? static_cast<Rareza>(linea.tipo)
+                                                : Compartida);
+    if (recuerdo.venta.pago == Dividido)
+        suyas.push_back(PagoDividido);
+    if (recuerdo.venta.pago == Deposito)
+        suyas.push_back(PagoDelDeposito);
+    if (recuerdo.yaDevuelta)
+        suyas.push_back(SegundaVez);
+    if (recuerdo.venta.albaran > 0)
+        suyas.push_back(DeAlbaran);
+    return suyas;
+}
+
+int Devoluciones::vistas(const Recuerdo& recuerdo) const
+{
+    return m_vueltas[std::ranges::min(rarezas(recuerdo), {}, [this](Rareza una) { return m_vueltas[una]; })];
+}
+
+/// The place of a sale to be returned, or the size of the list.
+std::size_t Devoluciones::elige(const std::deque<Recuerdo>& suyas, Fecha hoy)
+{
+    std::vector<std::size_t> maduras;
+    std::vector<std::size_t> conArticulo;
+    for (std::size_t i = 0; i < suyas.size(); ++i) {
+        const Venta& venta = suyas[i].venta;
+        if (venta.fecha.masDias(PlazoMin) > hoy || !sePuede(venta))
+            continue;
+        maduras.push_back(i);
+        if (std::ranges::any_of(venta.lineas, [](const Linea& linea) { return linea.tipo == TipoLinea::P; }))
+            conArticulo.push_back(i);
+    }
+    if (maduras.empty())
+        return suyas.size();
+    if (m_azar.porCien(LoRaro))
+        return *std::ranges::min_element(maduras, {}, [&](std::size_t i) { return vistas(suyas[i]); });
+    return m_azar.elige(conArticulo.empty() ? maduras : conArticulo);
 }
 
 bool Devoluciones::devuelve(const Turno& turno, int segundos, Dinero& efectivo)
 {
     auto& suyas = m_recientes[static_cast<std::size_t>(turno.tienda.numero)];
-    std::erase_if(suyas, [&](const Venta& venta) { return turno.dia.fecha.diaDeSerie() - venta.fecha.diaDeSerie() > 60; });
-    if (suyas.size() < 2 || suyas.front().fecha >= turno.dia.fecha)
+    const Fecha hoy = turno.dia.fecha;
+    std::erase_if(suyas, [hoy](const Recuerdo& uno) { return uno.venta.fecha.masDias(PlazoMax) < hoy; });
+    const std::size_t cual = elige(suyas, hoy);
+    if (cual == suyas.size())
         return false;
-    const auto cual = suyas.begin() + m_azar.hasta(static_cast<int>(suyas.size()) / 2);
-    m_venta = std::move(*cual);
-    suyas.erase(cual);
-    if (!eligeLineas())
-        return false;
+    const auto lugar = suyas.begin() + static_cast<std::ptrdiff_t>(cual);
+    for (const Rareza una : rarezas(*lugar))
+        ++m_vueltas[una];
+    m_venta = lugar->venta;
+    separa(*lugar);
+    if (lugar->venta.lineas.empty())
+        suyas.erase(lugar);
+    cancela();
     Dinero total;
     for (const Linea& linea : m_devueltas)
         total += linea.precio;
-    const FormaPago pago = m_venta.pago == Dividido ? Efectivo : m_venta.pago;
-    const bool vale = esComercio(m_negocio.sabor) && pago != Deposito && m_negocio.numeros.abono % 2 == 0;
-    if (vale)
-        m_vales.emite(m_venta.numero, turno.dia.fecha, total);
-    if (pago == Deposito)
-        m_negocio.clientela.cliente(m_venta.cliente).deposito += total;
-    if (pago == Efectivo && !vale)
-        efectivo -= total;
-    escribe(turno, segundos, pago, total);
+    const Dinero enMano = liquida(hoy, total);
+    if (!m_conVale)
+        efectivo -= enMano;
+    escribe(turno, segundos, total, enMano);
     return true;
 }
 
-bool Devoluciones::eligeLineas()
+/// What goes back and what stays with the client: packs, bonos and their like go back whole, of goods mostly one.
+void Devoluciones::separa(Recuerdo& recuerdo)
 {
+    std::vector<Linea> quedan;
     m_devueltas.clear();
-    const bool deBono = std::ranges::any_of(m_venta.lineas, esBono);
-    if (deBono && !m_bonos.cancela(m_venta.numero))
-        return false;
-    const bool deSpa = std::ranges::any_of(m_venta.lineas, [](const Linea& linea) { return linea.tipo == TipoLinea::PSPA; });
-    if (deSpa && !m_bonos.cancelaSpa(m_venta.cliente))
-        return false;
-    const bool dePack = std::ranges::any_of(m_venta.lineas, [](const Linea& linea) { return linea.tipo == TipoLinea::F; });
-    std::ranges::stable_partition(m_venta.lineas, [](const Linea& linea) { return linea.tipo == TipoLinea::P; });
-    for (const Linea& linea : m_venta.lineas) {
-        if (!devoluble(linea) || (!deBono && !dePack && !m_devueltas.empty() && m_azar.porCien(70)))
+    auto& lineas = recuerdo.venta.lineas;
+    const bool entera = std::ranges::any_of(lineas, [](const Linea& linea) { return esPaquete(linea) || esIngreso(linea); });
+    std::ranges::stable_partition(lineas, [](const Linea& linea) { return linea.tipo == TipoLinea::P; });
+    for (const Linea& linea : lineas) {
+        if (!devoluble(linea) || (!entera && !m_devueltas.empty() && m_azar.porCien(70))) {
+            quedan.push_back(linea);
             continue;
-        m_devueltas.push_back(linea);
-        Linea& devuelta = m_devueltas.back();
-        const bool varias = devuelta.unidades >= 2 && devuelta.descuento == Dinero{} && m_venta.impuestoIncluido;
-        if (varias && m_azar.porCien(60))
-            dejaUna(devuelta);
+        }
+        const bool varias = linea.unidades >= 2 && linea.descuento == Dinero{} && m_venta.impuestoIncluido;
+        if (!varias || m_azar.porCien(30)) {
+            m_devueltas.push_back(linea);
+            continue;
+        }
+        m_devueltas.push_back(parte(linea, 1));
+        quedan.push_back(parte(linea, linea.unidades - 1));
     }
-    return !m_devueltas.empty();
+    const bool algoQueDevolver = std::ranges::any_of(quedan, [this](const Linea& linea) { return devoluble(linea); });
+    lineas = algoQueDevolver ? quedan : std::vector<Linea>{};
+    recuerdo.yaDevuelta = true;
 }
 
-void Devoluciones::escribe(const Turno& turno, int segundos, FormaPago pago, Dinero total)
+/// What a return undoes in other books. A session that was enjoyed stays used.
+void Devoluciones::cancela()
 {
-    const int numero = m_negocio.numeros.abono++;
+    for (const Linea& linea : m_devueltas) {
+        if (esBono(linea))
+            m_bonos.cancela(m_venta.numero);
+        if (linea.tipo == TipoLinea::PSPA)
+            m_bonos.cancelaSpa(m_venta.cliente);
+        if (esIngreso(linea))
+            m_negocio.clientela.cliente(m_venta.cliente).deposito -= linea.precio;
+    }
+}
+
+/// Pays back as it was paid, half of the returns of a shop by a voucher. Returns the cash part.
+Dinero Devoluciones::liquida(Fecha fecha, Dinero total)
+{
+    if (m_venta.pago == Dividido && total.cuartos < 2)
+        m_venta.pago = Efectivo;
+    m_conVale = esComercio(m_negocio.sabor) && m_venta.pago != Deposito && m_hechas++ % 2 == 1 && total > Dinero{};
+    if (m_conVale)
+        m_vales.emite(m_venta, fecha, total);
+    if (m_venta.pago == Deposito)
+        m_negocio.clientela.cliente(m_venta.cliente).deposito += total;
+    if (m_venta.pago == Efectivo)
+        return total;
+    return m_venta.pago == Dividido ? std::min(m_venta.efectivo, Dinero{total.cuartos / 2}) : Dinero{};
+}
+
+/// The books of returns are apart from those of sales, and their numbers are the same ones: each month, and today, a store begins
+/// its book at the number of the first ticket that comes back.
+int Devoluciones::numera(const Turno& turno)
+{
+    Talonario& suyo = m_talonarios[static_cast<std::size_t>(turno.tienda.numero)];
+    const int mes = turno.esHoy ? -1 : turno.dia.fecha.anio() * 12 + turno.dia.fecha.mes();
+    const bool abre = suyo.abierto != mes && m_venta.numero > suyo.ultimo;
+    if (abre)
+        suyo.abierto = mes;
+    const int primero = turno.tienda.numero == 0 && m_negocio.tiendas.size() == 1 ? 1 : (turno.tienda.numero + 1) * 100'000;
+    suyo.ultimo = abre ? m_venta.numero : std::max(suyo.ultimo, primero) + 1;
+    return suyo.ultimo;
+}
+
+void Devoluciones::escribe(const Turno& turno, int segundos, Dinero total, Dinero efectivo)
+{
+    const int numero = numera(turno);
     Dinero descuento;
     for (const Linea& linea : m_devueltas)
         descuento += linea.descuento;
-    const auto parte = [total, pago](FormaPago forma) { return pago == forma ? total.enEuros() : 0.0; };
-    m_negocio.destino.fila(tablas::CabeceraAbono,
-                           {{numero, m_venta.numero, turno.dia.fecha, horaDe(segundos), m_venta.cliente, qint16{pago},
-                             total.enEuros(), parte(Efectivo), parte(Tarjeta), descuento.enEuros(), m_venta.tienda}});
+    const bool conTarjeta = m_venta.pago == Tarjeta || m_venta.pago == Dividido;
+    m_negocio.destino.fila(
+        tablas::CabeceraAbono,
+        {{numero, m_venta.numero, turno.dia.fecha, horaDe(segundos), m_venta.cliente, qint16{m_venta.pago}, total.enEuros(),
+          efectivo.enEuros(), conTarjeta ? (total - efectivo).enEuros() : 0.0, descuento.enEuros(), m_venta.tienda}});
     for (const Linea& linea : m_devueltas) {
         const bool sinSegundo = linea.impuesto2 == Dinero{} && m_azar.porCien(40);
         m_negocio.destino.fila(

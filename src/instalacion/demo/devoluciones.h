@@ -2,34 +2,14 @@
 
 #include "instalacion/demo/bonos.h"
 #include "instalacion/demo/negocio.h"
+#include "instalacion/demo/vales.h"
 
+#include <array>
 #include <deque>
 
 namespace kestrane::demo {
 
-/// Discount vouchers that returns leave in the shops that sell goods.
-class Vales
-{
-public:
-    void emite(int factura, Fecha fecha, Dinero importe);
-    /// Spends one that is worth no more than the sale; false when there is none.
-    bool gasta(const Venta& venta);
-    void escribe(Destino& destino) const;
-
-private:
-    struct Vale
-    {
-        int factura = 0;
-        Fecha desde;
-        Dinero importe;
-        int aplicado = 0; // 0: not spent
-    };
-
-    std::vector<Vale> m_vales;
-    std::vector<std::size_t> m_pendientes;
-};
-
-/// Goods and services brought back: the last sales of each store are remembered for it.
+/// Goods and services brought back: some sales of the last weeks are remembered for it, store by store.
 class Devoluciones
 {
 public:
@@ -45,14 +25,51 @@ public:
     [[nodiscard]] const Venta& ventaDevuelta() const { return m_venta; }
 
 private:
-    [[nodiscard]] bool eligeLineas();
-    void escribe(const Turno& turno, int segundos, FormaPago pago, Dinero total);
+    /// What returns differ by: the kinds of line, and then some.
+    enum Rareza : std::size_t {
+        DeTipo,
+        IngresoEnDeposito = static_cast<std::size_t>(TipoLinea::SP) + 1,
+        PagoDividido,
+        PagoDelDeposito,
+        Compartida,
+        SegundaVez,
+        DeAlbaran,
+        Cuantas
+    };
+    /// A sale as far as it is still with the client.
+    struct Recuerdo
+    {
+        Venta venta;
+        bool yaDevuelta = false;
+    };
+    /// A store's book of returns.
+    struct Talonario
+    {
+        int ultimo = 0;
+        int abierto = 0; // month in which it was opened, or the last day
+    };
+
+    [[nodiscard]] bool devoluble(const Linea& linea) const;
+    [[nodiscard]] bool sePuede(const Venta& venta) const;
+    [[nodiscard]] std::vector<Rareza> rarezas(const Recuerdo& recuerdo) const;
+    /// How often the rarest thing about a sale has been returned.
+    [[nodiscard]] int vistas(const Recuerdo& recuerdo) const;
+    [[nodiscard]] std::size_t elige(const std::deque<Recuerdo>& suyas, Fecha hoy);
+    void separa(Recuerdo& recuerdo);
+    void cancela();
+    [[nodiscard]] int numera(const Turno& turno);
+    [[nodiscard]] Dinero liquida(Fecha fecha, Dinero total);
+    void escribe(const Turno& turno, int segundos, Dinero total, Dinero efectivo);
 
     Negocio& m_negocio;
     Bonos& m_bonos;
     Vales& m_vales;
     Azar m_azar;
-    std::vector<std::deque<Venta>> m_recientes; // by store
+    std::vector<std::deque<Recuerdo>> m_recientes; // by store
+    std::vector<Talonario> m_talonarios;
+    std::array<int, Cuantas> m_vueltas{};
+    int m_hechas = 0;
+    bool m_conVale = false;
     Venta m_venta;
     std::vector<Linea> m_devueltas;
 };

@@ -11,9 +11,10 @@ namespace kestrane::demo {
 
 namespace {
 
-constexpr int TiendasDeCadena = 50;
 constexpr int NumerosPorTienda = 100'000;
-constexpr double ParteDeMuestra = 0.09; // of the tickets of a day, when a day is only sampled
+constexpr double ParteDeMuestra = 0.16; // of the tickets of a day, when a day is only sampled
+constexpr int ConDeposito = 80;         // days in a thousand on which someone comes to spend a deposit
+constexpr int VueltaDeReyes = 25;       // returns in a thousand tickets, beside the usual ones, after Christmas
 
 enum Rama : quint64 {
     DeCatalogo = 11,
@@ -30,21 +31,6 @@ enum Rama : quint64 {
     DeOpciones,
     DeTiendas
 };
-
-int cuantasTiendas(const Parametros& parametros, const Ritmo& ritmo)
-{
-    switch (parametros.tamano) {
-    case Tamano::Dia:
-        return 1;
-    case Tamano::Mes:
-        return ritmo.tiendasMes;
-    case Tamano::Anio:
-        return ritmo.tiendasAnio;
-    case Tamano::Cadena:
-        return TiendasDeCadena;
-    }
-    return 1;
-}
 
 /// Stores have numbers of their own; the first of a shop that is alone goes on from the tickets of years before.
 std::vector<Tienda> abreTiendas(const Sabor& datos, int cuantas, Azar azar)
@@ -102,7 +88,8 @@ private:
         const bool cadena = m_negocio.parametros.tamano == Tamano::Cadena;
         const double media = (cadena ? ritmo.ticketsDiaCadena : ritmo.ticketsDia) * tienda.escala;
         if (dia.detalle == Detalle::Muestra)
-            return std::max(3, static_cast<int>(media * ParteDeMuestra));
+            return std::max(2,
+                            static_cast<int>(media * m_negocio.calendario.actividad(dia.fecha) * ParteDeMuestra + m_azar.real()));
         const double suerte = 0.8 + 0.2 * (m_azar.real() + m_azar.real());
         const double parte = m_negocio.parametros.proporcion;
         return std::max(4, static_cast<int>(media * m_negocio.calendario.actividad(dia.fecha) * suerte * parte + 0.5));
@@ -113,8 +100,7 @@ private:
     {
         const int conocidos = (cuantos * m_negocio.sabor.ritmo.conCliente + m_azar.hasta(100)) / 100;
         std::vector<Cliente*> gente = m_negocio.clientela.visitantes(tienda.numero, dia, conocidos);
-        if (dia.fecha == m_negocio.calendario.hoy())
-            invita(tienda, dia.fecha, gente);
+        invita(tienda, dia.fecha, gente);
         gente.resize(static_cast<std::size_t>(cuantos), nullptr);
         for (std::size_t i = gente.size(); i > 1; --i)
             std::swap(gente[i - 1], gente[static_cast<std::size_t>(m_azar.hasta(static_cast<int>(i)))]);
@@ -134,12 +120,16 @@ private:
             tienda.sucesos.fuerza(Suceso::Devolucion);
     }
 
-    /// Clients who spend today what they paid before.
+    /// Clients who spend today what they paid before: on the last day some of each kind, on others now and then one with a deposit.
     void invita(const Tienda& tienda, Fecha fecha, std::vector<Cliente*>& gente)
     {
         std::vector<Cliente*> invitados;
-        for (const int codigo : m_bonos.titulares(tienda.nombre, fecha))
-            invitados.push_back(&m_negocio.clientela.cliente(codigo));
+        if (fecha == m_negocio.calendario.hoy()) {
+            for (const int codigo : m_bonos.titulares(tienda.nombre, fecha))
+                invitados.push_back(&m_negocio.clientela.cliente(codigo));
+        } else if (!m_azar.porMil(ConDeposito)) {
+            return;
+        }
         invitados.push_back(m_negocio.clientela.conDeposito(tienda.numero));
         for (Cliente* uno : invitados) {
             if (uno == nullptr || uno->ultimaVisita == fecha)
@@ -153,12 +143,14 @@ private:
     {
         const Turno turno{tienda, dia, m_negocio.plantilla.deTurno(tienda.numero, dia.fecha),
                           dia.fecha == m_negocio.calendario.hoy()};
+        m_negocio.plantilla.amanece(tienda.numero);
+        m_agenda.abreDia(tienda.nombre, dia.fecha);
         const int cuantos = tickets(tienda, dia);
         const auto horas = m_negocio.calendario.horas(dia.fecha, cuantos, m_azar);
         const auto gente = concurrencia(tienda, dia, cuantos);
         Dinero efectivo;
         for (std::size_t i = 0; i < horas.size(); ++i) {
-            if (dia.detalle == Detalle::Muestra && i == 0)
+            if (dia.conRarezas && i == 0)
                 tienda.sucesos.fuerza(static_cast<Suceso>(m_muestras++ % static_cast<int>(Suceso::Cuantos)));
             if (turno.esHoy)
                 animaHoy(tienda, i, horas.size());
@@ -174,7 +166,10 @@ private:
 
     void devuelve(const Turno& turno, int minuto, Dinero& efectivo)
     {
-        if (!turno.tienda.sucesos.toca(Suceso::Devolucion, m_azar))
+        const Fecha hoy = turno.dia.fecha;
+        const bool trasReyes = esComercio(m_negocio.sabor) && m_negocio.sabor.oficio != Oficio::Alimentacion && hoy.mes() == 1 &&
+                               hoy.dia() >= 7 && hoy.dia() <= 18;
+        if (!turno.tienda.sucesos.toca(Suceso::Devolucion, m_azar) && !(trasReyes && m_azar.porMil(VueltaDeReyes)))
             return;
         if (m_devoluciones.devuelve(turno, minuto, efectivo))
             m_almacen.devuelve(m_devoluciones.ventaDevuelta(), m_devoluciones.lineasDevueltas(), turno.dia.fecha);
@@ -202,7 +197,7 @@ void generaTienda(const Parametros& parametros, Destino& destino)
     const Sabor& datos = sabor(parametros.tipo);
     const Azar azar = Azar{parametros.semilla}.rama(static_cast<quint64>(parametros.tipo));
     const Calendario calendario{parametros, datos};
-    const int tiendas = cuantasTiendas(parametros, datos.ritmo);
+    const int tiendas = cuantasTiendas(parametros);
     Catalogo catalogo{datos, azar.rama(DeCatalogo)};
     Plantilla plantilla{datos, tiendas, parametros.hoy, azar.rama(DePlantilla)};
     Clientela clientela{parametros, catalogo, calendario, tiendas, azar.rama(DeClientela)};

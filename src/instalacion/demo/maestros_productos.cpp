@@ -24,6 +24,13 @@ Valor codigoVisible(const Articulo& articulo)
     return codigoDeBarras(articulo.codigo);
 }
 
+/// The first of the articles for internal use has not been given a price.
+bool sinPrecio(const Negocio& negocio, const Articulo& articulo)
+{
+    const auto interno = [](const Articulo& uno) { return !uno.seVende(); };
+    return &articulo == &*std::ranges::find_if(negocio.catalogo.articulos(), interno);
+}
+
 void escribeArticulo(const Negocio& negocio, const Articulo& articulo, Azar& azar)
 {
     const DatosProducto& datos = *articulo.datos;
@@ -33,7 +40,7 @@ void escribeArticulo(const Negocio& negocio, const Articulo& articulo, Azar& aza
     negocio.destino.fila(
         tablas::Productos,
         {{articulo.codigo, codigoVisible(articulo), articulo.nombre, articulo.coste.enEuros(),
-          !articulo.seVende() && articulo.codigo % 2 == 1 ? Valor{} : Valor{articulo.precio.enEuros()}, articulo.stock, minimo,
+          sinPrecio(negocio, articulo) ? Valor{} : Valor{articulo.precio.enEuros()}, articulo.stock, minimo,
           articulo.consumoInterno, datos.seccion, ultimo ? SinProveedor : datos.proveedor, static_cast<qint16>(datos.clase),
           articulo.porPeso() ? qint16{1} : qint16{0}, articulo.seVende() && !azar.porCien(5) ? EnCaja : qint16{0}, false,
           azar.elige(negocio.tiendas).nombre}});

@@ -4,6 +4,7 @@
 #include "instalacion/demo/tablas.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace kestrane::demo {
 
@@ -11,8 +12,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::array cicloAnuladas{Anulacion::NumeroNegativo, Anulacion::Marcada, Anulacion::SinFecha,       Anulacion::EnCurso,
-                                   Anulacion::Marcada,        Anulacion::Marcada, Anulacion::NumeroNegativo, Anulacion::Marcada};
+template<class Condicion>
+std::vector<int> aptos(const std::vector<int>& posiciones, Condicion condicion)
+{
+    std::vector<int> suyos;
+    std::ranges::copy_if(posiciones, std::back_inserter(suyos), condicion);
+    return suyos;
+}
+
+constexpr int RebajadosDe100 = 40; // sales with something reduced, in the sales
 
 } // namespace
 
@@ -28,6 +36,10 @@ Mostrador::Mostrador(Negocio& negocio, Bonos& bonos, Deudas& deudas, Devolucione
     , m_azar{azar}
     , m_lineas{{negocio.sabor.ritmo.lineas.begin(), negocio.sabor.ritmo.lineas.end()}}
 {
+    for (int caso = 0; caso < static_cast<int>(CasoAnulado::Cuantos); ++caso) {
+        if (ocurre(static_cast<CasoAnulado>(caso)))
+            m_casosAnulados.push_back(static_cast<CasoAnulado>(caso));
+    }
 }
 
 Dinero Mostrador::atiende(const Turno& turno, int segundos, Cliente* cliente)
@@ -35,6 +47,7 @@ Dinero Mostrador::atiende(const Turno& turno, int segundos, Cliente* cliente)
     Venta venta = abre(turno, segundos, cliente);
     if (anula(turno, venta, cliente))
         return {};
+    pierdeDatos(turno, venta, cliente);
     Carrito carrito{m_negocio, turno, venta, m_azar};
     compone(turno, carrito, cliente);
     remata(turno, carrito, cliente);
@@ -52,11 +65,22 @@ Venta Mostrador::abre(const Turno& turno, int segundos, const Cliente* cliente)
     venta.tienda = turno.tienda.nombre;
     venta.numeroTienda = turno.tienda.numero;
     venta.cliente = cliente == nullptr ? 0 : cliente->codigo;
-    const auto turnoDe = static_cast<int>(turno.empleados.size());
-    const bool fiel = cliente != nullptr && m_azar.porCien(75);
-    const int lugar = fiel ? cliente->codigo % turnoDe : m_azar.hasta(turnoDe);
-    venta.empleado = turno.empleados[static_cast<std::size_t>(lugar)]->codigo;
+    venta.gusto = cliente == nullptr ? -1 : cliente->gusto;
+    const Empleado* suyo = cliente == nullptr ? nullptr : m_negocio.plantilla.habitual(turno.empleados, cliente->gusto);
+    const bool fiel = suyo != nullptr && m_azar.porCien(75);
+    venta.empleado = (fiel ? suyo : m_azar.elige(turno.empleados))->codigo;
     return venta;
+}
+
+/// Rows of older programs: a client whose card is gone, a store without its name.
+void Mostrador::pierdeDatos(const Turno& turno, Venta& venta, const Cliente* cliente)
+{
+    if (cliente != nullptr)
+        return;
+    if (turno.tienda.sucesos.toca(Suceso::SinFicha, m_azar))
+        venta.cliente = m_negocio.clientela.codigoSinFicha();
+    else if (turno.tienda.sucesos.toca(Suceso::SinTienda, m_azar))
+        venta.tienda = QString{};
 }
 
 bool Mostrador::vieneAGastar(const Turno& turno, const Cliente* cliente)
@@ -66,44 +90,35 @@ bool Mostrador::vieneAGastar(const Turno& turno, const Cliente* cliente)
     return cliente->deposito > Dinero{} || m_bonos.tiene(cliente->codigo, turno.dia.fecha);
 }
 
-/// A ticket that ends among the annulled ones leaves nothing in the other books.
-bool Mostrador::anula(const Turno& turno, Venta& venta, Cliente* cliente)
-{
-    if (vieneAGastar(turno, cliente) || !turno.tienda.sucesos.toca(Suceso::Anulada, m_azar))
-        return false;
-    const Anulacion anulacion = cicloAnuladas[static_cast<std::size_t>(m_anuladas++) % cicloAnuladas.size()];
-    Carrito carrito{m_negocio, turno, venta, m_azar};
-    corriente(carrito, cliente);
-    if (m_anuladas % 4 == 1)
-        carrito.descuenta();
-    if (m_anuladas % 3 == 0)
-        carrito.comparte();
-    if (anulacion == Anulacion::SinFecha && !m_negocio.catalogo.packsSpa().empty())
-        carrito.packSpa(0).tipo = TipoLinea::SP;
-    carrito.grava(m_fisco, false);
-    paga(turno, venta, nullptr);
-    if (anulacion == Anulacion::NumeroNegativo || anulacion == Anulacion::SinFecha)
-        venta.numero = m_negocio.numeros.anulada--;
-    const Fecha cuando = std::min(venta.fecha.masDias(m_azar.porCien(25) ? m_azar.entre(1, 3) : 0), m_negocio.calendario.hoy());
-    escribeAnulada(m_negocio.destino, venta, anulacion, cuando);
-    return true;
-}
-
 void Mostrador::compone(const Turno& turno, Carrito& carrito, Cliente* cliente)
 {
     if (rara(turno, carrito, cliente))
         return;
-    if (turno.esHoy && cliente != nullptr && cliente->deposito > Dinero{}) {
-        corriente(carrito, cliente);
-        carrito.limita(cliente->deposito);
+    if (cliente != nullptr && cliente->deposito > Dinero{} && (turno.esHoy || m_azar.porCien(50))) {
+        gastaDeposito(carrito, *cliente);
         return;
     }
     if (cliente != nullptr && especial(turno, carrito, *cliente))
         return;
     if (turno.tienda.sucesos.toca(Suceso::Arreglo, m_azar))
-        arregla(carrito, cliente);
+        arregla(carrito, cliente, m_azar.hasta(static_cast<int>(m_negocio.sabor.arreglos.size())));
     else
         corriente(carrito, cliente);
+}
+
+/// What the client's deposit pays for, if anything does.
+void Mostrador::gastaDeposito(Carrito& carrito, const Cliente& cliente)
+{
+    constexpr int Intentos = 60;
+    if (esComercio(m_negocio.sabor))
+        articulos(carrito, m_lineas.gira(m_azar) + 1);
+    else
+        corriente(carrito, &cliente);
+    carrito.limita(cliente.deposito);
+    for (int i = 0; i < Intentos && carrito.venta().total() > cliente.deposito; ++i) {
+        carrito.venta().lineas.clear();
+        articulos(carrito, 1);
+    }
 }
 
 /// The tickets that puzzle: an opened drawer without lines, a return rung up as a sale.
@@ -125,6 +140,10 @@ bool Mostrador::especial(const Turno& turno, Carrito& carrito, Cliente& cliente)
 {
     if ((turno.esHoy || m_azar.porCien(80)) && consume(carrito, cliente))
         return true;
+    if (turno.tienda.sucesos.toca(Suceso::Encargo, m_azar)) {
+        encarga(carrito);
+        return true;
+    }
     if (turno.tienda.sucesos.toca(Suceso::IngresoDeposito, m_azar)) {
         constexpr std::array importes{40, 50, 50, 60, 100, 150};
         const Dinero importe = Dinero::euros(m_azar.elige(importes));
@@ -134,7 +153,18 @@ bool Mostrador::especial(const Turno& turno, Carrito& carrito, Cliente& cliente)
             corriente(carrito, &cliente);
         return true;
     }
-    return vendeBono(turno, carrito, cliente) || vendePack(turno, carrito);
+    return vendeBono(turno, carrito, cliente) || vendePack(turno, carrito, cliente);
+}
+
+/// Some orders are as long as a list of debts can just show, others are longer.
+void Mostrador::encarga(Carrito& carrito)
+{
+    constexpr qsizetype Entero = 255;
+    if (m_encargos++ % 2 == 0)
+        carrito.encargo(Entero - 2, Entero);
+    else
+        carrito.encargo(Entero + 1, 2 * Entero);
+    carrito.venta().aCuenta = true;
 }
 
 /// A session of a bono or of a spa pack, with something more now and then.
@@ -163,7 +193,9 @@ bool Mostrador::vendeBono(const Turno& turno, Carrito& carrito, const Cliente& c
     if (m_bonos.vigente(cliente.codigo, venta.fecha.masDias(1)) != nullptr)
         return false;
     Sucesos& sucesos = turno.tienda.sucesos;
-    const auto& conBono = m_negocio.catalogo.serviciosConBono();
+    const Publico publico = cliente.publico();
+    const std::vector<int> conBono =
+        aptos(m_negocio.catalogo.serviciosConBono(), [&](int cual) { return m_negocio.catalogo.esPara(publico, cual); });
     if (!conBono.empty() && sucesos.toca(Suceso::VentaBono, m_azar)) {
         const int posicion = m_azar.elige(conBono);
         const int sesiones = m_negocio.catalogo.servicios()[static_cast<std::size_t>(posicion)].datos->sesionesBono;
@@ -171,7 +203,9 @@ bool Mostrador::vendeBono(const Turno& turno, Carrito& carrito, const Cliente& c
         m_bonos.vende(venta, posicion, -1, sesiones);
         return true;
     }
-    const auto& packs = m_negocio.catalogo.packsConBono();
+    const std::vector<int> packs = aptos(m_negocio.catalogo.packsConBono(), [&](int cual) {
+        return m_negocio.catalogo.esPara(publico, m_negocio.catalogo.packs()[static_cast<std::size_t>(cual)]);
+    });
     if (packs.empty() || !sucesos.toca(Suceso::VentaBonoPack, m_azar))
         return false;
     const int posicion = m_azar.elige(packs);
@@ -180,20 +214,32 @@ bool Mostrador::vendeBono(const Turno& turno, Carrito& carrito, const Cliente& c
     return true;
 }
 
-bool Mostrador::vendePack(const Turno& turno, Carrito& carrito)
+/// Positions of the packs that are for such a client.
+std::vector<int> Mostrador::paraEl(const std::vector<Pack>& packs, const Cliente& cliente) const
+{
+    std::vector<int> suyos;
+    for (std::size_t i = 0; i < packs.size(); ++i) {
+        if (m_negocio.catalogo.esPara(cliente.publico(), packs[i]))
+            suyos.push_back(static_cast<int>(i));
+    }
+    return suyos;
+}
+
+bool Mostrador::vendePack(const Turno& turno, Carrito& carrito, const Cliente& cliente)
 {
     Sucesos& sucesos = turno.tienda.sucesos;
     const auto& spa = m_negocio.catalogo.packsSpa();
-    if (!spa.empty() && sucesos.toca(Suceso::VentaPackSpa, m_azar)) {
-        const int posicion = m_azar.hasta(static_cast<int>(spa.size()));
+    const std::vector<int> deSpa = paraEl(spa, cliente);
+    if (!deSpa.empty() && sucesos.toca(Suceso::VentaPackSpa, m_azar)) {
+        const int posicion = m_azar.elige(deSpa);
         carrito.packSpa(posicion);
         m_bonos.vendeSpa(carrito.venta(), spa[static_cast<std::size_t>(posicion)]);
         return true;
     }
-    const auto& packs = m_negocio.catalogo.packs();
+    const std::vector<int> packs = paraEl(m_negocio.catalogo.packs(), cliente);
     if (packs.empty() || !sucesos.toca(Suceso::VentaPack, m_azar))
         return false;
-    carrito.pack(m_azar.hasta(static_cast<int>(packs.size())), TipoLinea::F);
+    carrito.pack(m_azar.elige(packs), TipoLinea::F);
     return true;
 }
 
@@ -219,7 +265,9 @@ void Mostrador::servicios(Carrito& carrito, const Cliente* cliente, int cuantos)
         const bool habitual = cliente != nullptr && m_azar.porCien(75);
         const int posicion =
             habitual ? cliente->habituales[static_cast<std::size_t>(i % 3)] : m_negocio.catalogo.sorteaServicio(publico, m_azar);
-        if (!carrito.tiene(TipoLinea::S, m_negocio.catalogo.servicios()[static_cast<std::size_t>(posicion)].codigo))
+        if (posicion < static_cast<int>(m_negocio.sabor.arreglos.size()))
+            arregla(carrito, cliente, posicion);
+        else if (!carrito.tiene(TipoLinea::S, m_negocio.catalogo.servicios()[static_cast<std::size_t>(posicion)].codigo))
             carrito.servicio(posicion);
     }
 }
@@ -234,27 +282,17 @@ void Mostrador::articulos(Carrito& carrito, int cuantos)
     }
 }
 
-/// Something is brought to be mended: a job for a workshop and the line that is paid for it.
-void Mostrador::arregla(Carrito& carrito, const Cliente* cliente)
-{
-    const auto cuantos = static_cast<int>(m_negocio.sabor.arreglos.size());
-    Linea& linea = carrito.servicio(m_azar.hasta(cuantos));
-    linea.arreglo = m_negocio.numeros.arreglo++;
-    const QString quien = cliente != nullptr ? juntos(cliente->nombreDePila(), cliente->apellidosJuntos())
-                                             : juntos(m_azar.elige(nombresDeMujer()), m_azar.elige(apellidos()));
-    const bool reciente = m_negocio.calendario.hoy().diaDeSerie() - carrito.venta().fecha.diaDeSerie() < 12;
-    const bool recogido = !reciente || m_azar.porCien(30);
-    m_negocio.destino.fila(tablas::ArreglosProductos,
-                           {{linea.arreglo, m_negocio.catalogo.sorteaArticulo(carrito.venta().fecha, m_azar) + 1,
-                             m_azar.entre(1, 3), quien, telefonoMovil(m_azar), recogido}});
-}
-
 void Mostrador::remata(const Turno& turno, Carrito& carrito, const Cliente* cliente)
 {
-    const Venta& venta = carrito.venta();
+    Venta& venta = carrito.venta();
     const bool llana = !venta.lineas.empty() && !venta.esDevolucion;
+    if (!esComercio(m_negocio.sabor) && llana)
+        venta.empleado = venta.lineas.front().empleado; // who did the work rings it up
     Sucesos& sucesos = turno.tienda.sucesos;
-    if (llana && sucesos.toca(Suceso::Descuento, m_azar)) {
+    const bool rebajado = llana && m_negocio.calendario.hayRebajas(venta.fecha) && m_azar.porCien(RebajadosDe100);
+    if (rebajado)
+        carrito.descuenta();
+    if (llana && !rebajado && sucesos.toca(Suceso::Descuento, m_azar)) {
         carrito.descuenta();
         if (venta.descuento() == Dinero{})
             sucesos.aplaza(Suceso::Descuento);

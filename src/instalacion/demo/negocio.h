@@ -16,12 +16,12 @@ struct Tienda
     double escala = 1.0; // of the average store
     int siguienteTicket = 1;
     Sucesos sucesos;
+    bool fiadoHoy = false; // someone who paid today with cash and card owes a part
 };
 
 /// The next number of each book that all stores share.
 struct Numeradores
 {
-    int abono = 1;
     int pago = 1;
     int bono = 1;
     int cita = 1;
@@ -51,7 +51,7 @@ struct Turno
 {
     Tienda& tienda;
     DiaNegocio dia;
-    std::vector<const Empleado*> empleados;
+    Turnantes empleados;
     bool esHoy = false;
 };
 

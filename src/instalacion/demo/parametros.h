@@ -4,6 +4,7 @@
 #include "platform/runtime/fecha.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -22,6 +23,8 @@ struct Parametros
     Fecha hoy = *Fecha::deCalendario(2024, 6, 14);
     /// Identifier of the terminal that gets an employee, printers and a tariff.
     QString terminal = QStringLiteral("mostrador");
+    /// The store whose terminal reads the data; empty: the central installation, "Servidor".
+    QString tiendaDelTerminal{};
     /// Share of the usual number of tickets and clients, for quick tests of the large sizes.
     double proporcion = 1.0;
 
@@ -32,5 +35,12 @@ struct Parametros
 [[nodiscard]] std::optional<Tamano> tamanoDeTexto(QStringView texto);
 /// "PELUQUERIA", "SPA" and so on, exactly as the option table stores it; nothing for another word.
 [[nodiscard]] std::optional<TipoTienda> tipoDeTexto(QStringView texto);
+
+/// How many stores such a shop has.
+[[nodiscard]] int cuantasTiendas(const Parametros& parametros);
+/// Their names; none for a shop that is alone, whose store has no name.
+[[nodiscard]] QStringList nombresDeTiendas(const Parametros& parametros);
+/// One of them, spelled as it is; nothing for another word.
+[[nodiscard]] std::optional<QString> tiendaDeTexto(QStringView texto, const Parametros& parametros);
 
 } // namespace kestrane::demo

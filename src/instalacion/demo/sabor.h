@@ -3,6 +3,7 @@
 #include <QStringView>
 
 #include <array>
+#include <initializer_list>
 #include <span>
 
 /// What a trade sells, for how much, when and to whom: the tables of data that the demo shops are made from, one file per flavour
@@ -22,8 +23,8 @@ enum class Publico { Todos, Mujer, Hombre };
 enum class ClaseProducto { Venta = 0, ConsumoInterno = 1, Ambos = 2 };
 enum class FormaVenta { Unidad, Peso };
 /// When a thing is asked for.
-enum class Temporada { Siempre, Calor, Frio, Navidad, Santos, Cuaresma };
-enum class Tallaje { Ninguno, Ropa, Pantalon, ZapatoMujer, ZapatoHombre, ZapatoNino };
+enum class Temporada { Siempre, Calor, Frio, Navidad, Santos, Cuaresma, Comuniones };
+enum class Tallaje { Ninguno, Ropa, RopaNino, Pantalon, ZapatoMujer, ZapatoHombre, ZapatoNino };
 
 struct DatosServicio
 {
@@ -62,6 +63,28 @@ struct DatosPack
     std::array<int, 4> servicios;
     int sesionesBono = 0;
 };
+
+/// What an employee is, and the sections whose services are in such hands.
+struct DatosCategoria
+{
+    QStringView mujer;
+    QStringView hombre;
+    quint32 secciones;
+
+    [[nodiscard]] constexpr bool atiende(int seccion) const { return (secciones >> seccion & 1U) != 0; }
+};
+
+inline constexpr quint32 TodasLasSecciones = ~0U;
+inline constexpr quint32 NingunaSeccion = 0;
+
+/// Some sections, by their codes.
+[[nodiscard]] constexpr quint32 estasSecciones(std::initializer_list<int> codigos)
+{
+    quint32 suyas = 0;
+    for (const int codigo : codigos)
+        suyas |= 1U << codigo;
+    return suyas;
+}
 
 struct DatosArreglo
 {
@@ -115,7 +138,7 @@ struct Sabor
     std::span<const DatosArreglo> arreglos;
     std::span<const QStringView> proveedores;
     std::span<const QStringView> marcas;
-    std::span<const QStringView> categorias; // of employees
+    std::span<const DatosCategoria> categorias; // of employees, the head of a store first
     Ritmo ritmo;
 };
 

@@ -26,6 +26,9 @@ enum class Suceso {
     ComoVenta, // a return rung up as a sale of negative units
     SinLineas,
     Anulada,
+    Encargo,   // a large order that is taken away on account
+    SinFicha,  // a sale to a client whose card was removed
+    SinTienda, // a sale that lost the name of its store
     Cuantos
 };
 

@@ -166,6 +166,8 @@ constexpr Columnas<1> columnasMultitienda{"nombre"_c};
 
 constexpr Columnas<3> columnasMigraciontablas{"tabla"_c, "estado"_c, "fecha"_c};
 
+constexpr Columnas<4> columnasPasardatos{"terminal"_c, "texto2"_c, "indice"_c, "texto1"_c};
+
 constexpr Columnas<5> columnasPreferenciasTerminal{"terminal"_c, "tema"_c, "letra"_c, "ancho"_c, "alto"_c};
 
 constexpr Columnas<3> columnasPermisosListados{"empleado"_c, "control"_c, "permitido"_c};
@@ -225,6 +227,7 @@ constexpr TablaDemo Configuracionregional{"configuracionregional"_c, columnasCon
 constexpr TablaDemo RelacionesFijas{"relaciones_fijas"_c, columnasRelacionesFijas};
 constexpr TablaDemo Multitienda{"multitienda"_c, columnasMultitienda};
 constexpr TablaDemo Migraciontablas{"migraciontablas"_c, columnasMigraciontablas};
+constexpr TablaDemo Pasardatos{"pasardatos"_c, columnasPasardatos};
 constexpr TablaDemo PreferenciasTerminal{"preferencias_terminal"_c, columnasPreferenciasTerminal};
 constexpr TablaDemo PermisosListados{"permisos_listados"_c, columnasPermisosListados};
 constexpr TablaDemo Listadostemporal{"listadostemporal"_c, columnasListadostemporal};
@@ -282,6 +285,7 @@ std::span<const TablaDemo* const> todas()
                                       &RelacionesFijas,
                                       &Multitienda,
                                       &Migraciontablas,
+                                      &Pasardatos,
                                       &PreferenciasTerminal,
                                       &PermisosListados,
                                       &Listadostemporal};

@@ -57,6 +57,7 @@ extern const TablaDemo Configuracionregional;
 extern const TablaDemo RelacionesFijas;
 extern const TablaDemo Multitienda;
 extern const TablaDemo Migraciontablas;
+extern const TablaDemo Pasardatos;
 extern const TablaDemo PreferenciasTerminal;
 extern const TablaDemo PermisosListados;
 extern const TablaDemo Listadostemporal;

@@ -31,7 +31,7 @@ void escribeLineas(Destino& destino, const TablaDemo& tabla, const Venta& venta,
         destino.fila(tabla, {{venta.numero, linea.codigo, pierde ? Valor{} : Valor{texto(linea.tipo)}, linea.texto, linea.unidades,
                               linea.precio.enEuros(), linea.unitario.enEuros(), linea.impuesto.enEuros(), linea.impuesto2.enEuros(),
                               static_cast<double>(linea.iva), linea.descuento.enEuros(), linea.nombreEmpleado, linea.empleado,
-                              oNulo(linea.codigoVariante), arreglo(linea), venta.tienda}});
+                              oNulo(linea.codigoVariante), arreglo(linea), oNulo(venta.tienda)}});
         pierde = false;
     }
 }
@@ -40,8 +40,8 @@ void escribeRepartos(Destino& destino, const Venta& venta)
 {
     for (const Linea& linea : venta.lineas) {
         for (const Reparto& parte : linea.reparto)
-            destino.fila(tablas::VentasCompartidas,
-                         {{venta.numero, linea.codigo, texto(linea.tipo), parte.empleado, parte.importe.enEuros(), venta.tienda}});
+            destino.fila(tablas::VentasCompartidas, {{venta.numero, linea.codigo, texto(linea.tipo), parte.empleado,
+                                                      parte.importe.enEuros(), oNulo(venta.tienda)}});
     }
 }
 
@@ -85,13 +85,14 @@ Dinero Venta::descuento() const
 
 void escribeVenta(Destino& destino, const Venta& venta)
 {
-    destino.fila(tablas::CabeceraFactura, {{venta.numero, venta.fecha, venta.fecha, venta.hora, venta.tienda, venta.cliente,
-                                            venta.empleado, qint16{venta.pago}, venta.total().enEuros(), venta.efectivo.enEuros(),
-                                            venta.tarjeta.enEuros(), venta.descuento().enEuros(),
-                                            venta.albaran > 0   ? Valor{venta.albaran}
-                                            : venta.cliente > 0 ? Valor{0}
-                                                                : Valor{},
-                                            caracteristica(venta), venta.impuestoIncluido}});
+    destino.fila(tablas::CabeceraFactura,
+                 {{venta.numero, venta.fecha, venta.fechaFactura ? Valor{*venta.fechaFactura} : Valor{}, venta.hora,
+                   oNulo(venta.tienda), venta.cliente, venta.empleado, qint16{venta.pago}, venta.total().enEuros(),
+                   venta.efectivo.enEuros(), venta.tarjeta.enEuros(), venta.descuento().enEuros(),
+                   venta.albaran > 0   ? Valor{venta.albaran}
+                   : venta.cliente > 0 ? Valor{0}
+                                       : Valor{},
+                   caracteristica(venta), venta.impuestoIncluido}});
     escribeLineas(destino, tablas::DetalleFactura, venta, PrimerTipo::Suyo);
     escribeRepartos(destino, venta);
 }
@@ -100,7 +101,7 @@ void escribeAnulada(Destino& destino, const Venta& venta, Anulacion anulacion, F
 {
     const bool sinFecha = anulacion == Anulacion::SinFecha;
     destino.fila(tablas::CabeceraFacturaAnulaciones,
-                 {{venta.numero, sinFecha ? Valor{} : Valor{venta.fecha}, fecha, venta.hora, venta.tienda, venta.cliente,
+                 {{venta.numero, sinFecha ? Valor{} : Valor{venta.fecha}, fecha, venta.hora, oNulo(venta.tienda), venta.cliente,
                    venta.empleado, qint16{venta.pago}, venta.total().enEuros(), venta.efectivo.enEuros(), venta.tarjeta.enEuros(),
                    venta.descuento().enEuros(), Nulo{}, caracteristica(venta), venta.impuestoIncluido,
                    anulacion == Anulacion::Marcada || sinFecha}});

@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <optional>
 #include <vector>
 
 namespace kestrane::demo {
@@ -50,16 +51,19 @@ struct Venta
 {
     int numero = 0;
     Fecha fecha;
-    Fecha hora; // on the zero day
-    QString tienda;
+    Fecha hora;                        // on the zero day
+    std::optional<Fecha> fechaFactura; // date on the invoice; none in what older programs left
+    QString tienda;                    // null: lost
     int numeroTienda = 0;
     int cliente = 0; // 0: unknown
     int empleado = 0;
+    int gusto = -1; // of the client, as in Plantilla::atiende
     FormaPago pago = Efectivo;
     Dinero efectivo;
     Dinero tarjeta;
     int albaran = 0;
     bool esDevolucion = false;
+    bool aCuenta = false; // taken away without paying
     bool impuestoIncluido = true;
     std::vector<Linea> lineas;
 

@@ -1,5 +1,8 @@
+#include "instalacion/demo/calendario.h"
 #include "instalacion/demo/mes_de_cada_sabor.h"
+#include "instalacion/demo/plantilla.h"
 
+#include <algorithm>
 #include <map>
 #include <set>
 #include <tuple>
@@ -38,6 +41,28 @@ TEST_P(AgendaDeLaDemo, AnAppointmentHasItsPeopleAndThereAreOldNewCancelledAndMis
     EXPECT_GT(anuladas, 1);
     EXPECT_GT(ausentes, 1);
     EXPECT_GT(conTexto, 1);
+}
+
+TEST_P(AgendaDeLaDemo, NobodyIsBookedTwiceAtATimeNorWhileTheShopIsShut)
+{
+    std::map<int, int> minutos;
+    for (const Fila& servicio : filas(tablas::Servicios))
+        minutos[servicio.entero("codigo")] = servicio.valor("duracion").entero16();
+    std::map<std::pair<int, Fecha>, std::vector<std::pair<int, int>>> libro;
+    for (const Fila& cita : filas(tablas::Agenda)) {
+        if (cita.entero("servicio") == 0 || cita.entero("empleado") == EmpleadoSinFicha)
+            continue;
+        const int desde = cita.fecha("hora_inicio").segundoDelDia() / 60;
+        libro[{cita.entero("empleado"), cita.fecha("fecha")}].emplace_back(desde, desde + minutos[cita.entero("servicio")]);
+    }
+    const Calendario calendario{Parametros{.tipo = GetParam()}, datos()};
+    for (auto& [quien, citas] : libro) {
+        std::ranges::sort(citas);
+        for (std::size_t i = 0; i < citas.size(); ++i) {
+            EXPECT_TRUE(i == 0 || citas[i - 1].second <= citas[i].first) << quien.first;
+            EXPECT_TRUE(calendario.atiende(quien.second, citas[i].first, citas[i].second)) << quien.first << ' ' << citas[i].first;
+        }
+    }
 }
 
 } // namespace

@@ -10,8 +10,10 @@ KESTRANE_CADA_SABOR(BonosDeLaDemo);
 TEST_P(BonosDeLaDemo, UsesOfABonoStayWithinItsSessionsAndItsTime)
 {
     std::map<int, Fila> ventas;
-    for (const Fila& venta : filas(tablas::CabeceraFactura))
-        ventas.emplace(venta.entero("numero"), venta);
+    for (const TablaDemo* tabla : {&tablas::CabeceraFactura, &tablas::CabeceraFacturaAnulaciones}) {
+        for (const Fila& venta : filas(*tabla))
+            ventas.emplace(venta.entero("numero"), venta);
+    }
     std::map<int, std::vector<Fecha>> usos;
     for (const Fila& uso : filas(tablas::DetalleBono))
         usos[uso.entero("num_bono")].push_back(uso.fecha("fecha_consumo"));

@@ -34,35 +34,9 @@ TEST_P(DevolucionesDeLaDemo, AReturnBringsBackLinesOfASaleThatWasMadeBefore)
         EXPECT_EQ(venta.entero("cliente"), abono.entero("cliente"));
         EXPECT_EQ(venta.texto("tienda"), abono.texto("tienda"));
         EXPECT_EQ(abono.doble("total"), sumas[abono.entero("numero")]);
-        EXPECT_NE(abono.entero("pago"), 3);
+        const double partes = abono.doble("efectivo") + abono.doble("tarjeta");
+        EXPECT_EQ(partes, abono.entero("pago") <= 3 ? abono.doble("total") : 0) << abono.entero("numero");
     }
-}
-
-TEST_P(DevolucionesDeLaDemo, InTheShopsAReturnLeavesAVoucherNowAndThenAndSomeAreSpent)
-{
-    const auto ventas = porNumero(filas(tablas::CabeceraFactura), "numero");
-    const auto abonos = porNumero(filas(tablas::CabeceraAbono), "num_factura");
-    int gastados = 0;
-    const auto vales = filas(tablas::ValesDescuento);
-    for (const Fila& vale : vales) {
-        const auto abono = abonos.find(vale.entero("num_factura"));
-        ASSERT_NE(abono, abonos.end());
-        EXPECT_EQ(abono->second.doble("total"), vale.doble("descuento"));
-        EXPECT_EQ(abono->second.fecha("fechaventa"), vale.fecha("desde"));
-        if (vale.nulo("num_factura_aplicado"))
-            continue;
-        ++gastados;
-        const Fila& venta = ventas.at(vale.entero("num_factura_aplicado"));
-        EXPECT_GT(venta.fecha("fechaventa"), vale.fecha("desde"));
-        EXPECT_GE(venta.doble("total"), vale.doble("descuento"));
-    }
-    if (!comercio()) {
-        EXPECT_TRUE(vales.empty());
-        return;
-    }
-    EXPECT_GT(gastados, 0);
-    EXPECT_LT(gastados, static_cast<int>(vales.size()));
-    EXPECT_LT(vales.size(), abonos.size());
 }
 
 } // namespace

@@ -63,7 +63,8 @@ public:
         ++porDiaSemana[static_cast<std::size_t>(diaSemana(fecha) - 1)];
         dias[static_cast<std::size_t>(diaSemana(fecha) - 1)].insert(fecha);
         ++porMinuto[static_cast<std::size_t>(hora.segundoDelDia() / 60)];
-        ++porTienda[valores[4].texto()];
+        if (!valores[4].esNulo()) // a few have lost it
+            ++porTienda[valores[4].texto()];
     }
 
     [[nodiscard]] double ticketsDe(int diaDeSemana) const
@@ -81,6 +82,12 @@ public:
     std::array<int, 24 * 60> porMinuto{};
     std::map<QString, int> porTienda;
 };
+
+/// A store by the numbers of its tickets: some of them have lost its name.
+int tiendaDe(const Fila& venta)
+{
+    return venta.entero("numero") / 100'000;
+}
 
 TEST(SemillaDeLaDemo, EqualParametersMakeEqualShops)
 {
@@ -107,15 +114,15 @@ TEST(SemillaDeLaDemo, EachParameterMakesAnotherShop)
 
 TEST_P(JornadaDeLaDemo, NumbersOfAStoreFollowOneAnotherWhenTheAnnulledAreCounted)
 {
-    std::map<QString, std::set<int>> numeros;
+    std::map<int, std::set<int>> numeros;
     for (const Fila& venta : filas(tablas::CabeceraFactura))
-        numeros[venta.texto("tienda")].insert(venta.entero("numero"));
+        numeros[tiendaDe(venta)].insert(venta.entero("numero"));
     int renumeradas = 0;
     for (const Fila& venta : filas(tablas::CabeceraFacturaAnulaciones)) {
         if (venta.entero("numero") <= 0)
             ++renumeradas; // its own number is gone
         else {
-            EXPECT_TRUE(numeros[venta.texto("tienda")].insert(venta.entero("numero")).second);
+            EXPECT_TRUE(numeros[tiendaDe(venta)].insert(venta.entero("numero")).second);
         }
     }
     int huecos = 0;
@@ -127,14 +134,14 @@ TEST_P(JornadaDeLaDemo, NumbersOfAStoreFollowOneAnotherWhenTheAnnulledAreCounted
 
 TEST_P(JornadaDeLaDemo, TimeGoesOnFromTicketToTicket)
 {
-    std::map<QString, std::map<int, qint64>> momentos;
+    std::map<int, std::map<int, qint64>> momentos;
     for (const Fila& venta : filas(tablas::CabeceraFactura))
-        momentos[venta.texto("tienda")][venta.entero("numero")] =
+        momentos[tiendaDe(venta)][venta.entero("numero")] =
             qint64{venta.fecha("fechaventa").diaDeSerie()} * Fecha::SegundosPorDia + venta.fecha("hora").segundoDelDia();
     for (const auto& [nombre, suyos] : momentos) {
         qint64 antes = 0;
         for (const auto& [numero, momento] : suyos) {
-            EXPECT_LE(antes, momento) << nombre.toStdString() << ' ' << numero;
+            EXPECT_LE(antes, momento) << nombre << ' ' << numero;
             antes = momento;
         }
     }

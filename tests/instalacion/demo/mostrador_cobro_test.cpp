@@ -54,6 +54,10 @@ TEST_P(CobroDeLaDemo, TheDepositOfAClientIsWhatWasPaidInLessWhatWasSpent)
         if (abono.entero("pago") == 4)
             depositos[abono.entero("cliente")] += abono.doble("total");
     }
+    for (const Fila& linea : filas(tablas::DetalleAbono)) {
+        if (linea.texto("tipo_venta") == u"S" && linea.entero("codigo") == 2)
+            depositos[clientes[linea.entero("num_factura")]] -= linea.doble("precio");
+    }
     int conDinero = 0;
     for (const Fila& cliente : filas(tablas::Clientes)) {
         EXPECT_EQ(cliente.doble("dindep"), depositos[cliente.entero("codigo")]) << cliente.entero("codigo");

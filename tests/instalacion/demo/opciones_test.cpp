@@ -31,6 +31,42 @@ TEST(OpcionesDeLaDemo, NamesItsStoresAndItself)
                                              QStringLiteral("Norte")}));
 }
 
+TEST(OpcionesDeLaDemo, ABranchHasTheNameOfItsStore)
+{
+    const TiendaEnMemoria tienda{
+        Parametros{.tipo = TipoTienda::Tpv, .tamano = Tamano::Mes, .tiendaDelTerminal = QStringLiteral("Gran Centro")}};
+    const Fila opciones = tienda.filas(tablas::Opciones).front();
+    EXPECT_EQ(opciones.texto("multitienda"), QStringLiteral("T"));
+    EXPECT_EQ(opciones.texto("nombretienda"), QStringLiteral("Gran Centro"));
+}
+
+TEST(OpcionesDeLaDemo, ShopsChooseDifferently)
+{
+    std::set<QString> letras;
+    std::set<QString> variosDias;
+    std::set<bool> facturas;
+    std::set<bool> conImpuesto;
+    for (const TipoTienda tipo : TodosLosTipos) {
+        for (const Tamano tamano : {Tamano::Dia, Tamano::Mes}) {
+            const TiendaEnMemoria tienda{Parametros{.tipo = tipo, .tamano = tamano, .proporcion = 0.1}};
+            const Fila opciones = tienda.filas(tablas::Opciones).front();
+            letras.insert(opciones.nulo("multitienda") ? QStringLiteral("null") : opciones.texto("multitienda"));
+            facturas.insert(opciones.si("modulofacturas"));
+            conImpuesto.insert(opciones.si("iva"));
+            QString suyo = QStringLiteral("missing");
+            for (const Fila& relacion : tienda.filas(tablas::RelacionesFijas))
+                suyo = relacion.texto("indice") == u"PermiteListadoVariosDias" ? relacion.texto("datoa") : suyo;
+            variosDias.insert(suyo);
+        }
+    }
+    EXPECT_EQ(letras, (std::set<QString>{QStringLiteral(""), QStringLiteral("N"), QStringLiteral("S"), QStringLiteral("T"),
+                                         QStringLiteral("null")}));
+    EXPECT_EQ(variosDias,
+              (std::set<QString>{QStringLiteral("NO"), QStringLiteral("SI"), QStringLiteral("missing"), QStringLiteral("si")}));
+    EXPECT_EQ(facturas.size(), 2U);
+    EXPECT_EQ(conImpuesto.size(), 2U);
+}
+
 TEST(OpcionesDeLaDemo, HasAnEmployeePrintersAndATariff)
 {
     const TiendaEnMemoria tienda{Parametros{.tamano = Tamano::Dia, .terminal = QStringLiteral("equipo7")}};

@@ -13,5 +13,15 @@ TEST(PalabrasDeLaDemo, SizesAndFlavoursAreNamedExactly)
     EXPECT_FALSE(tipoDeTexto(u"Peluqueria"));
 }
 
+TEST(PalabrasDeLaDemo, StoresAreThoseOfTheFlavourAndTheSize)
+{
+    const Parametros mes{.tipo = TipoTienda::Tpv, .tamano = Tamano::Mes};
+    EXPECT_EQ(nombresDeTiendas(mes), (QStringList{QStringLiteral("Centro"), QStringLiteral("Gran Centro")}));
+    EXPECT_EQ(tiendaDeTexto(u"Gran Centro", mes), QStringLiteral("Gran Centro"));
+    EXPECT_FALSE(tiendaDeTexto(u"Norte", mes));
+    EXPECT_FALSE(tiendaDeTexto(u"Centro", Parametros{.tamano = Tamano::Dia}));
+    EXPECT_EQ(cuantasTiendas(Parametros{.tamano = Tamano::Cadena}), 50);
+}
+
 } // namespace
 } // namespace kestrane::demo::pruebas

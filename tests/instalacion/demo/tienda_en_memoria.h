@@ -19,7 +19,8 @@ public:
     [[nodiscard]] bool nulo(const char* columna) const { return valor(columna).esNulo(); }
     [[nodiscard]] int entero(const char* columna) const { return valor(columna).entero32(); }
     [[nodiscard]] double doble(const char* columna) const { return valor(columna).doble(); }
-    [[nodiscard]] QString texto(const char* columna) const { return valor(columna).texto(); }
+    /// Null reads as the null text.
+    [[nodiscard]] QString texto(const char* columna) const { return nulo(columna) ? QString{} : valor(columna).texto(); }
     [[nodiscard]] Fecha fecha(const char* columna) const { return valor(columna).fecha(); }
     [[nodiscard]] bool si(const char* columna) const { return valor(columna).logico(); }
 

@@ -37,29 +37,6 @@ TEST_P(VentasDeLaDemo, TheTotalOfASaleIsTheSumOfItsLines)
     }
 }
 
-TEST_P(VentasDeLaDemo, AnnulledSalesAreOfEveryKind)
-{
-    int renumeradas = 0;
-    int marcadas = 0;
-    int enCurso = 0;
-    int sinFecha = 0;
-    int cero = 0;
-    for (const Fila& venta : filas(tablas::CabeceraFacturaAnulaciones)) {
-        const bool positiva = venta.entero("numero") > 0;
-        cero += venta.entero("numero") == 0 ? 1 : 0;
-        renumeradas += !positiva && !venta.si("borrar") ? 1 : 0;
-        marcadas += positiva && venta.si("borrar") ? 1 : 0;
-        enCurso += positiva && !venta.si("borrar") ? 1 : 0;
-        sinFecha += venta.nulo("fechaventa") ? 1 : 0;
-        EXPECT_FALSE(venta.nulo("fecha"));
-    }
-    EXPECT_EQ(cero, 1);
-    EXPECT_GT(renumeradas, 1);
-    EXPECT_GT(marcadas, 1);
-    EXPECT_GT(enCurso, 0);
-    EXPECT_GT(sinFecha, 0);
-}
-
 TEST_P(VentasDeLaDemo, ALostKindAndAPackOfTheOldProgramStandOnlyWhereTheDateIsLostToo)
 {
     std::set<int> sinFecha;

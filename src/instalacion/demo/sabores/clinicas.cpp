@@ -48,7 +48,7 @@ constexpr DatosProducto productos[] = {
     {u"Protector Solar SPF 50+", Venta, 2, 23.50, 12.25, 21, 20, ClaseProducto::Venta, FormaVenta::Unidad, Tallaje::Ninguno,
      Temporada::Calor},
     {u"Sérum Despigmentante 30 ml", Venta, 2, 46.00, 24.00, 21, 7},
-    {u"Gel Frío Muscular 150 ml", Venta, 3, 11.00, 5.25, 21, 24},
+    {u"Gel Frío Muscular con Árnica y Mentol para Deportistas 150 ml", Venta, 3, 11.00, 5.25, 21, 24},
     {u"Crema de Calor 150 ml", Venta, 3, 11.50, 5.50, 21, 18},
     {u"Venda Neuromuscular Rollo", Venta, 3, 9.50, 4.50, 21, 20},
     {u"Rodillera Elástica", Venta, 4, 24.00, 13.00, 10, 8},
@@ -79,8 +79,15 @@ constexpr QStringView proveedores[] = {u"Distribuciones Clínicas Duero S.L.", u
 
 constexpr QStringView marcas[] = {u"Solmar Derma", u"Fisioarag", u"Galdós Orto", u"Nutrilab"};
 
-constexpr QStringView categorias[] = {u"Directora Médica", u"Fisioterapeuta",      u"Podólogo",
-                                      u"Médico",           u"Auxiliar de Clínica", u"Recepcionista"};
+constexpr DatosCategoria categorias[] = {
+    {u"Directora Médica", u"Director Médico", estasSecciones({Consultas, Medicina, Nutricion, Laser})},
+    {u"Fisioterapeuta", u"Fisioterapeuta", estasSecciones({Fisioterapia})},
+    {u"Podóloga", u"Podólogo", estasSecciones({Podologia})},
+    {u"Médica", u"Médico", estasSecciones({Consultas, Medicina})},
+    {u"Recepcionista", u"Recepcionista", NingunaSeccion},
+    {u"Fisioterapeuta", u"Fisioterapeuta", estasSecciones({Fisioterapia})},
+    {u"Enfermera", u"Enfermero", estasSecciones({Laser, Nutricion})},
+};
 
 } // namespace
 
@@ -114,7 +121,7 @@ constexpr Sabor SaborClinicas{
               .intervalo = 26,
               .lineas = {78, 18, 4, 0, 0, 0, 0, 0},
               .conProducto = 12,
-              .empleados = 6},
+              .empleados = 8},
 };
 
 } // namespace kestrane::demo

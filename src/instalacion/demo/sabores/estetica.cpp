@@ -65,7 +65,7 @@ constexpr DatosProducto productos[] = {
     {u"Leche Limpiadora 200 ml", Venta, 1, 17.00, 8.25, 21, 14},
     {u"Tónico Facial 200 ml", Venta, 1, 15.50, 7.50, 21, 12},
     {u"Exfoliante Corporal 250 ml", Venta, 3, 18.75, 8.75, 21, 10},
-    {u"Gel de Aloe Vera 250 ml", Venta, 3, 9.50, 4.25, 21, 24},
+    {u"Gel de Aloe Vera de Canarias para Después de la Depilación 250 ml", Venta, 3, 9.50, 4.25, 21, 24},
     {u"Aceite Retardador del Vello 100 ml", Venta, 4, 14.00, 6.50, 21, 11},
     {u"Crema Anticelulítica 200 ml", Venta, 3, 31.00, 15.50, 21, 8},
     {u"Esmalte Semipermanente 10 ml", Venta, 5, 11.50, 5.00, 21, 10},
@@ -74,6 +74,7 @@ constexpr DatosProducto productos[] = {
     {u"Máscara de Pestañas", Venta, 1, 16.50, 7.75, 21, 9},
     {u"Barra de Labios", Venta, 1, 13.25, 6.00, 21, 9},
     {u"Colonia Fresca 150 ml", Venta, 2, 12.00, 5.50, 21, 5},
+    {u"Infusión Drenante 20 sobres", Venta, 3, 6.75, 3.25, 10, 12},
     {u"Cera Tibia Roll-on", Consumo, 4, 3.75, 1.75, 21, 2, Ambos},
     {u"Cera Caliente 1 kg", Consumo, 4, 14.50, 7.75, 21, 0, Interno},
     {u"Bandas Depilatorias Caja de 100", Consumo, 4, 6.50, 3.25, 21, 0, Interno},
@@ -94,7 +95,13 @@ constexpr QStringView proveedores[] = {u"Dermocosmética Lirio S.L.", u"Laborato
 
 constexpr QStringView marcas[] = {u"Lirio Dermo", u"Solmar", u"Aloe Timanfaya", u"Nácar Nails"};
 
-constexpr QStringView categorias[] = {u"Encargada", u"Esteticista de Primera", u"Esteticista", u"Auxiliar"};
+constexpr DatosCategoria categorias[] = {
+    {u"Encargada", u"Encargado", TodasLasSecciones},
+    {u"Esteticista de Primera", u"Esteticista de Primera", TodasLasSecciones},
+    {u"Esteticista", u"Esteticista", TodasLasSecciones},
+    {u"Técnica de Láser", u"Técnico de Láser", estasSecciones({Laser, Depilacion, Corporales})},
+    {u"Auxiliar", u"Auxiliar", estasSecciones({Depilacion, Unas})},
+};
 
 } // namespace
 
@@ -113,7 +120,7 @@ constexpr Sabor SaborEstetica{
     .marcas = marcas,
     .categorias = categorias,
     .ritmo = {.ticketsDia = 47,
-              .ticketsDiaCadena = 40,
+              .ticketsDiaCadena = 43,
               .diasCadena = 730,
               .tiendasMes = 3,
               .tiendasAnio = 5,
@@ -128,7 +135,7 @@ constexpr Sabor SaborEstetica{
               .intervalo = 30,
               .lineas = {44, 34, 16, 6, 0, 0, 0, 0},
               .conProducto = 14,
-              .empleados = 5},
+              .empleados = 11},
 };
 
 } // namespace kestrane::demo

@@ -23,7 +23,7 @@ constexpr DatosProducto productos[] = {
     {u"Barra Pequeña", Pan, 1, 0.75, 0.25, 4, 90},
     {u"Chapata", Pan, 1, 1.25, 0.50, 4, 46},
     {u"Hogaza de Pueblo", Pan, 1, 3.00, 1.00, 4, 40},
-    {u"Pan Integral", Pan, 1, 2.25, 0.75, 4, 38},
+    {u"Pan Integral de Espelta con Semillas de Lino y Calabaza", Pan, 1, 2.25, 0.75, 4, 38},
     {u"Pan de Centeno", Pan, 1, 3.25, 1.25, 4, 16},
     {u"Pan de Molde Casero", Pan, 1, 3.50, 1.25, 4, 14},
     {u"Pan sin Sal", Pan, 1, 1.00, 0.25, 4, 10},
@@ -79,7 +79,11 @@ constexpr QStringView proveedores[] = {u"Harinas Tierra de Campos S.A.",
 
 constexpr QStringView marcas[] = {u"Tierra de Campos", u"Astorga", u"Cibeles", u"San Isidro"};
 
-constexpr QStringView categorias[] = {u"Encargada", u"Dependienta", u"Panadero", u"Pastelero", u"Repartidor"};
+constexpr DatosCategoria categorias[] = {
+    {u"Encargada", u"Encargado", TodasLasSecciones},    {u"Dependienta", u"Dependiente", TodasLasSecciones},
+    {u"Panadera", u"Panadero", TodasLasSecciones},      {u"Pastelera", u"Pastelero", TodasLasSecciones},
+    {u"Repartidora", u"Repartidor", TodasLasSecciones},
+};
 
 } // namespace
 

@@ -51,7 +51,7 @@ constexpr auto Ambos = ClaseProducto::Ambos;
 constexpr DatosProducto productos[] = {
     {u"Champú Hidratante 300 ml", Venta, 1, 12.50, 6.25, 21, 30},
     {u"Champú Anticaspa 300 ml", Venta, 1, 13.25, 6.50, 21, 14},
-    {u"Champú Cabello Teñido 300 ml", Venta, 1, 13.75, 6.75, 21, 26},
+    {u"Champú para Cabello Teñido con Filtro Solar y Aceite de Argán 300 ml", Venta, 1, 13.75, 6.75, 21, 26},
     {u"Champú Volumen 300 ml", Venta, 2, 12.75, 6.25, 21, 16},
     {u"Acondicionador Nutritivo 250 ml", Venta, 1, 13.00, 6.50, 21, 18},
     {u"Mascarilla Reparadora 200 ml", Venta, 2, 18.50, 9.25, 21, 20},
@@ -64,6 +64,7 @@ constexpr DatosProducto productos[] = {
     {u"Gomina Fijación Fuerte 150 ml", Venta, 4, 8.50, 4.00, 21, 14},
     {u"Aceite para Barba 30 ml", Venta, 4, 13.50, 6.00, 21, 11},
     {u"Bálsamo para Después del Afeitado 100 ml", Venta, 4, 12.00, 5.50, 21, 6},
+    {u"Complemento Alimenticio para el Cabello 60 cápsulas", Venta, 1, 24.50, 13.00, 10, 9},
     {u"Ampollas Anticaída Caja de 12", Venta, 1, 42.00, 22.50, 21, 6},
     {u"Protector Térmico 200 ml", Venta, 3, 14.50, 7.00, 21, 10},
     {u"Cepillo Desenredante", Venta, 5, 8.00, 3.50, 21, 12},
@@ -96,7 +97,14 @@ constexpr QStringView proveedores[] = {u"Capilar Norte Distribuciones S.L.", u"L
 
 constexpr QStringView marcas[] = {u"Trenzal Professional", u"Argania", u"Norte Hair", u"Don Molina", u"Titania Style"};
 
-constexpr QStringView categorias[] = {u"Encargada", u"Oficial Mayor", u"Oficial de Primera", u"Ayudante", u"Aprendiza"};
+constexpr DatosCategoria categorias[] = {
+    {u"Encargada", u"Encargado", TodasLasSecciones},
+    {u"Oficial Mayor", u"Oficial Mayor", TodasLasSecciones},
+    {u"Oficial de Primera", u"Oficial de Primera", TodasLasSecciones},
+    {u"Ayudante", u"Ayudante", estasSecciones({Peinado, Tratamientos, Caballeros, Color})},
+    {u"Aprendiza", u"Aprendiz", estasSecciones({Peinado, Tratamientos})},
+    {u"Esteticista", u"Esteticista", estasSecciones({Manicura})},
+};
 
 } // namespace
 
@@ -130,7 +138,7 @@ constexpr Sabor SaborPeluqueria{
               .intervalo = 34,
               .lineas = {50, 34, 13, 3, 0, 0, 0, 0},
               .conProducto = 16,
-              .empleados = 6},
+              .empleados = 10},
 };
 
 } // namespace kestrane::demo

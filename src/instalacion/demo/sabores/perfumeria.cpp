@@ -24,7 +24,7 @@ constexpr auto Ambos = ClaseProducto::Ambos;
 constexpr DatosProducto productos[] = {
     {u"Agua de Perfume Jazmín 50 ml", Fragancias, 1, 49.50, 29.50, 21, 20},
     {u"Agua de Perfume Jazmín 100 ml", Fragancias, 1, 72.00, 43.00, 21, 12},
-    {u"Agua de Colonia Azahar 200 ml", Fragancias, 1, 18.50, 10.00, 21, 30},
+    {u"Agua de Colonia Fresca Azahar de Valencia con Vaporizador 200 ml", Fragancias, 1, 18.50, 10.00, 21, 30},
     {u"Perfume Ámbar Intenso 30 ml", Fragancias, 2, 58.00, 35.00, 21, 9},
     {u"Agua de Tocador Rosas 100 ml", Fragancias, 2, 41.50, 25.00, 21, 16},
     {u"Perfume Medianoche 50 ml", Fragancias, 2, 65.00, 39.00, 21, 9},
@@ -61,6 +61,7 @@ constexpr DatosProducto productos[] = {
     {u"Leche Corporal 400 ml", Higiene, 3, 8.50, 4.25, 21, 22},
     {u"Crema de Manos 75 ml", Higiene, 3, 4.75, 2.25, 21, 24},
     {u"Jabón de Glicerina", Higiene, 3, 2.25, 1.00, 21, 20},
+    {u"Compresas Normales 16 unidades", Higiene, 3, 2.75, 1.25, 4, 20},
     {u"Pasta Dentífrica Blanqueadora", Higiene, 3, 3.75, 1.75, 21, 16},
     {u"Estuche Perfume y Crema", Estuches, 1, 79.00, 47.00, 21, 9},
     {u"Estuche Caballero Cedro", Estuches, 2, 56.00, 33.50, 21, 9},
@@ -84,7 +85,12 @@ constexpr QStringView proveedores[] = {
 
 constexpr QStringView marcas[] = {u"Jazmín de Levante", u"Alcántara", u"Lirio Dermo", u"Iberia Color", u"Azahar"};
 
-constexpr QStringView categorias[] = {u"Encargada", u"Consejera de Belleza", u"Dependienta", u"Cajera"};
+constexpr DatosCategoria categorias[] = {
+    {u"Encargada", u"Encargado", TodasLasSecciones},
+    {u"Consejera de Belleza", u"Consejero de Belleza", TodasLasSecciones},
+    {u"Dependienta", u"Dependiente", TodasLasSecciones},
+    {u"Cajera", u"Cajero", TodasLasSecciones},
+};
 
 } // namespace
 

@@ -50,7 +50,7 @@ constexpr DatosProducto productos[] = {
     {u"Aceite Esencial de Lavanda 15 ml", Venta, 1, 11.50, 5.25, 21, 18},
     {u"Aceite Esencial de Eucalipto 15 ml", Venta, 1, 10.75, 5.00, 21, 12},
     {u"Sales de Baño del Mar 500 g", Venta, 2, 12.00, 5.00, 21, 18},
-    {u"Jabón Artesano de Oliva", Venta, 2, 5.50, 2.25, 21, 26},
+    {u"Jabón Artesano de Aceite de Oliva y Romero de la Sierra 100 g", Venta, 2, 5.50, 2.25, 21, 26},
     {u"Crema Hidratante Corporal 250 ml", Venta, 3, 21.50, 10.25, 21, 16},
     {u"Crema Reafirmante 200 ml", Venta, 3, 34.00, 17.00, 21, 9},
     {u"Sérum Facial Vitamina C 30 ml", Venta, 3, 42.00, 21.50, 21, 8},
@@ -88,7 +88,24 @@ constexpr QStringView proveedores[] = {u"Aromas de la Alcarria S.L.", u"Termas y
 
 constexpr QStringView marcas[] = {u"Lirio Dermo", u"Alcarria Natural", u"Termasur", u"Romero & Luz"};
 
-constexpr QStringView categorias[] = {u"Directora", u"Masajista", u"Esteticista", u"Recepcionista", u"Auxiliar de Aguas"};
+constexpr quint32 deMasaje = estasSecciones({Masajes, Rituales});
+constexpr quint32 deBelleza = estasSecciones({Faciales, Corporales, Manos, Rituales});
+constexpr quint32 deAguas = estasSecciones({Circuitos});
+
+constexpr DatosCategoria categorias[] = {
+    {u"Directora", u"Director", TodasLasSecciones},
+    {u"Auxiliar de Aguas", u"Auxiliar de Aguas", deAguas},
+    {u"Masajista", u"Masajista", deMasaje},
+    {u"Esteticista", u"Esteticista", deBelleza},
+    {u"Recepcionista", u"Recepcionista", NingunaSeccion},
+    {u"Auxiliar de Aguas", u"Auxiliar de Aguas", deAguas},
+    {u"Masajista", u"Masajista", deMasaje},
+    {u"Esteticista", u"Esteticista", deBelleza},
+    {u"Auxiliar de Aguas", u"Auxiliar de Aguas", deAguas},
+    {u"Masajista", u"Masajista", deMasaje},
+    {u"Auxiliar de Aguas", u"Auxiliar de Aguas", deAguas},
+    {u"Esteticista", u"Esteticista", deBelleza},
+};
 
 } // namespace
 
@@ -107,7 +124,7 @@ constexpr Sabor SaborSpa{
     .marcas = marcas,
     .categorias = categorias,
     .ritmo = {.ticketsDia = 45,
-              .ticketsDiaCadena = 45,
+              .ticketsDiaCadena = 46,
               .diasCadena = 730,
               .tiendasMes = 3,
               .tiendasAnio = 5,
@@ -122,7 +139,7 @@ constexpr Sabor SaborSpa{
               .intervalo = 40,
               .lineas = {62, 30, 8, 0, 0, 0, 0, 0},
               .conProducto = 18,
-              .empleados = 7},
+              .empleados = 13},
 };
 
 } // namespace kestrane::demo

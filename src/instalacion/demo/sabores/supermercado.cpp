@@ -59,7 +59,7 @@ constexpr DatosProducto productos[] = {
     {u"Chorizo Sarta", Charcuteria, 4, 4.50, 2.75, 10, 16},
     {u"Fiambre de Pavo", Charcuteria, 4, 2.25, 1.25, 10, 34},
     {u"Leche Entera 1 l", Lacteos, 5, 1.00, 0.75, 4, 110},
-    {u"Leche Semidesnatada 1 l", Lacteos, 5, 1.00, 0.75, 4, 120},
+    {u"Leche Semidesnatada sin Lactosa Enriquecida con Calcio Brik 1 l", Lacteos, 5, 1.00, 0.75, 4, 120},
     {u"Huevos Docena", Lacteos, 5, 2.50, 1.75, 4, 60},
     {u"Yogur Natural Pack de 8", Lacteos, 5, 1.75, 1.00, 10, 60},
     {u"Yogur de Sabores Pack de 8", Lacteos, 5, 2.00, 1.25, 10, 48},
@@ -120,7 +120,11 @@ constexpr QStringView proveedores[] = {u"Frutas Vega Baja S.L.",  u"Cárnicas Sa
 
 constexpr QStringView marcas[] = {u"Tormes", u"Lácteos del Eo", u"Gredos", u"Miramar", u"Vega Baja"};
 
-constexpr QStringView categorias[] = {u"Encargado", u"Cajera", u"Carnicero", u"Pescadera", u"Reponedor", u"Frutera"};
+constexpr DatosCategoria categorias[] = {
+    {u"Encargada", u"Encargado", TodasLasSecciones},  {u"Cajera", u"Cajero", TodasLasSecciones},
+    {u"Carnicera", u"Carnicero", TodasLasSecciones},  {u"Pescadera", u"Pescadero", TodasLasSecciones},
+    {u"Reponedora", u"Reponedor", TodasLasSecciones}, {u"Frutera", u"Frutero", TodasLasSecciones},
+};
 
 } // namespace
 

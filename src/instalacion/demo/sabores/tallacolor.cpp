@@ -18,10 +18,12 @@ constexpr DatosServicio servicios[] = {
 constexpr auto Venta = ClaseProducto::Venta;
 constexpr auto Unidad = FormaVenta::Unidad;
 constexpr auto Ropa = Tallaje::Ropa;
+constexpr auto RopaNino = Tallaje::RopaNino;
 constexpr auto Pantalon = Tallaje::Pantalon;
 
 constexpr DatosProducto productos[] = {
-    {u"Camiseta Básica Algodón", Senora, 1, 12.00, 5.00, 21, 40, Venta, Unidad, Ropa, Temporada::Calor},
+    {u"Camiseta Básica de Algodón Orgánico Cuello Redondo Manga Corta", Senora, 1, 12.00, 5.00, 21, 40, Venta, Unidad, Ropa,
+     Temporada::Calor},
     {u"Blusa Estampada", Senora, 1, 29.50, 13.50, 21, 26, Venta, Unidad, Ropa},
     {u"Vestido Midi de Flores", Senora, 2, 49.00, 23.00, 21, 20, Venta, Unidad, Ropa, Temporada::Calor},
     {u"Vestido de Fiesta", Senora, 2, 89.00, 44.00, 21, 6, Venta, Unidad, Ropa},
@@ -41,11 +43,11 @@ constexpr DatosProducto productos[] = {
     {u"Cazadora Acolchada", Caballero, 5, 72.00, 35.00, 21, 9, Venta, Unidad, Ropa, Temporada::Frio},
     {u"Traje de Dos Piezas", Caballero, 5, 159.00, 79.00, 21, 4, Venta, Unidad, Ropa},
     {u"Bermuda de Lino", Caballero, 3, 29.00, 13.00, 21, 14, Venta, Unidad, Pantalon, Temporada::Calor},
-    {u"Chándal Infantil", Infantil, 6, 24.50, 11.00, 21, 18, Venta, Unidad, Ropa},
-    {u"Vestido de Niña", Infantil, 6, 26.00, 11.50, 21, 14, Venta, Unidad, Ropa},
-    {u"Camiseta Infantil", Infantil, 6, 9.50, 4.00, 21, 28, Venta, Unidad, Ropa},
-    {u"Pijama Infantil", Infantil, 6, 17.50, 7.50, 21, 16, Venta, Unidad, Ropa},
-    {u"Traje de Comunión", Infantil, 6, 129.00, 68.00, 21, 2, Venta, Unidad, Ropa},
+    {u"Chándal Infantil", Infantil, 6, 24.50, 11.00, 21, 18, Venta, Unidad, RopaNino},
+    {u"Vestido de Niña", Infantil, 6, 26.00, 11.50, 21, 14, Venta, Unidad, RopaNino},
+    {u"Camiseta Infantil", Infantil, 6, 9.50, 4.00, 21, 28, Venta, Unidad, RopaNino},
+    {u"Pijama Infantil", Infantil, 6, 17.50, 7.50, 21, 16, Venta, Unidad, RopaNino},
+    {u"Traje de Comunión", Infantil, 6, 129.00, 68.00, 21, 2, Venta, Unidad, RopaNino, Temporada::Comuniones},
     {u"Calcetines Pack de 3", Interior, 7, 7.50, 3.00, 21, 38},
     {u"Medias Panty", Interior, 7, 5.25, 2.25, 21, 34, ClaseProducto::Venta, FormaVenta::Unidad, Tallaje::Ninguno, Temporada::Frio},
     {u"Conjunto de Lencería", Interior, 7, 26.50, 12.00, 21, 12, Venta, Unidad, Ropa},
@@ -54,6 +56,7 @@ constexpr DatosProducto productos[] = {
     {u"Bufanda de Lana", Complementos, 4, 16.50, 7.00, 21, 14, ClaseProducto::Venta, FormaVenta::Unidad, Tallaje::Ninguno,
      Temporada::Frio},
     {u"Pañuelo de Seda", Complementos, 4, 22.00, 10.00, 21, 10},
+    {u"Revista de Patrones", Complementos, 8, 6.50, 4.25, 4, 16},
     {u"Cinturón de Piel", Complementos, 8, 24.50, 11.00, 21, 14},
     {u"Bolso Bandolera", Complementos, 8, 39.00, 18.50, 21, 10},
     {u"Cartera de Piel", Complementos, 8, 29.50, 13.50, 21, 10},
@@ -83,7 +86,12 @@ constexpr QStringView proveedores[] = {
 
 constexpr QStringView marcas[] = {u"Albaicín", u"Serrano Moda", u"Ebro Jeans", u"Cardona", u"Pontevedra 1931", u"Pilarín"};
 
-constexpr QStringView categorias[] = {u"Encargada", u"Dependienta", u"Dependiente", u"Modista"};
+constexpr DatosCategoria categorias[] = {
+    {u"Encargada", u"Encargado", TodasLasSecciones},
+    {u"Dependienta", u"Dependiente", TodasLasSecciones},
+    {u"Modista", u"Modisto", TodasLasSecciones},
+    {u"Cajera", u"Cajero", TodasLasSecciones},
+};
 
 } // namespace
 

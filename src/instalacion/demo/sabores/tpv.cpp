@@ -29,7 +29,7 @@ constexpr DatosProducto productos[] = {
     {u"Pinturas de Cera Caja de 24", Papeleria, 1, 4.75, 2.25, 21, 18},
     {u"Archivador A4", Papeleria, 2, 3.50, 1.75, 21, 22},
     {u"Carpeta de Gomas", Papeleria, 2, 2.25, 1.00, 21, 28},
-    {u"Paquete de Folios 500 hojas", Papeleria, 2, 5.50, 3.50, 21, 36},
+    {u"Paquete de Folios 500 hojas A4 80 g Blanco para Impresora y Fotocopiadora", Papeleria, 2, 5.50, 3.50, 21, 36},
     {u"Cartulina de Color", Papeleria, 2, 0.75, 0.25, 21, 44},
     {u"Pegamento en Barra", Papeleria, 1, 1.75, 0.75, 21, 30},
     {u"Tijeras Escolares", Papeleria, 1, 2.25, 1.00, 21, 16},
@@ -83,7 +83,12 @@ constexpr QStringView proveedores[] = {u"Papelera del Pisuerga S.A.",           
 
 constexpr QStringView marcas[] = {u"Pisuerga", u"Miralles Office", u"Arlequín", u"Teide Tech", u"Quevedo Ediciones"};
 
-constexpr QStringView categorias[] = {u"Encargado", u"Dependiente", u"Dependienta", u"Mozo de Almacén"};
+constexpr DatosCategoria categorias[] = {
+    {u"Encargada", u"Encargado", TodasLasSecciones},
+    {u"Dependienta", u"Dependiente", TodasLasSecciones},
+    {u"Cajera", u"Cajero", TodasLasSecciones},
+    {u"Moza de Almacén", u"Mozo de Almacén", TodasLasSecciones},
+};
 
 } // namespace
 

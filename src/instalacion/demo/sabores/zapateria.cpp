@@ -32,7 +32,7 @@ constexpr DatosProducto productos[] = {
     {u"Sandalia Plana", Senora, 3, 32.50, 14.50, 21, 24, Venta, Unidad, Mujer, Temporada::Calor},
     {u"Alpargata de Esparto", Senora, 3, 26.00, 11.50, 21, 20, Venta, Unidad, Mujer, Temporada::Calor},
     {u"Zapato de Fiesta", Senora, 1, 58.00, 28.00, 21, 8, Venta, Unidad, Mujer},
-    {u"Deportivo Urbano de Señora", Senora, 4, 54.00, 27.00, 21, 26, Venta, Unidad, Mujer},
+    {u"Deportivo Urbano de Señora con Plataforma y Cordones de Colores", Senora, 4, 54.00, 27.00, 21, 26, Venta, Unidad, Mujer},
     {u"Zapato Cordones Caballero", Caballero, 2, 69.00, 33.50, 21, 20, Venta, Unidad, Hombre},
     {u"Mocasín Castellano", Caballero, 2, 72.00, 35.00, 21, 14, Venta, Unidad, Hombre},
     {u"Náutico de Piel", Caballero, 2, 56.00, 27.00, 21, 16, Venta, Unidad, Hombre, Temporada::Calor},
@@ -44,7 +44,7 @@ constexpr DatosProducto productos[] = {
     {u"Zapato Colegial", Infantil, 6, 36.00, 17.00, 21, 24, Venta, Unidad, Nino},
     {u"Deportivo Infantil Velcro", Infantil, 4, 31.00, 15.00, 21, 26, Venta, Unidad, Nino},
     {u"Bota de Agua Infantil", Infantil, 6, 18.50, 8.50, 21, 10, Venta, Unidad, Nino, Temporada::Frio},
-    {u"Zapato de Comunión", Infantil, 6, 42.50, 20.50, 21, 5, Venta, Unidad, Nino},
+    {u"Zapato de Comunión", Infantil, 6, 42.50, 20.50, 21, 5, Venta, Unidad, Nino, Temporada::Comuniones},
     {u"Zapatilla de Correr", Deporte, 4, 79.00, 42.00, 21, 14, Venta, Unidad, Hombre},
     {u"Zapatilla de Senderismo", Deporte, 4, 74.00, 38.50, 21, 10, Venta, Unidad, Hombre},
     {u"Zapatilla de Gimnasio", Deporte, 4, 49.00, 25.00, 21, 14, Venta, Unidad, Mujer},
@@ -54,6 +54,7 @@ constexpr DatosProducto productos[] = {
     {u"Betún en Crema", Complementos, 8, 4.25, 1.75, 21, 26},
     {u"Impermeabilizante Spray", Complementos, 8, 8.50, 3.75, 21, 18},
     {u"Plantillas de Gel", Complementos, 8, 9.75, 4.25, 21, 20},
+    {u"Plantillas Ortopédicas de Descarga", Complementos, 8, 18.50, 9.75, 10, 14},
     {u"Cordones", Complementos, 8, 2.50, 0.75, 21, 30},
     {u"Calzador", Complementos, 8, 3.00, 1.00, 21, 10},
     {u"Calcetines de Hilo", Complementos, 7, 5.50, 2.25, 21, 26},
@@ -80,7 +81,12 @@ constexpr QStringView proveedores[] = {
 
 constexpr QStringView marcas[] = {u"Vinalopó", u"Almansa 1920", u"Bidasoa Sport", u"Valverde", u"Illueca Kids", u"Rioja Esparto"};
 
-constexpr QStringView categorias[] = {u"Encargado", u"Dependienta", u"Dependiente", u"Zapatero"};
+constexpr DatosCategoria categorias[] = {
+    {u"Encargada", u"Encargado", TodasLasSecciones},
+    {u"Dependienta", u"Dependiente", TodasLasSecciones},
+    {u"Zapatera", u"Zapatero", TodasLasSecciones},
+    {u"Cajera", u"Cajero", TodasLasSecciones},
+};
 
 } // namespace
 
