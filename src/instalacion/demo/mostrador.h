@@ -53,6 +53,7 @@ private:
     [[nodiscard]] bool ocurre(CasoAnulado caso) const;
     void componeAnulada(Carrito& carrito, Cliente& cliente, CasoAnulado caso);
     void componeCompartida(Carrito& carrito, const Cliente& cliente);
+    void packAnulado(Carrito& carrito, CasoAnulado caso);
     void bonoAnulado(Carrito& carrito, CasoAnulado caso);
     [[nodiscard]] bool ocurre(CasoNota caso) const;
     void deja(const Turno& turno, int orden, CasoNota caso);

@@ -80,13 +80,9 @@ void Mostrador::componeAnulada(Carrito& carrito, Cliente& cliente, CasoAnulado c
         componeCompartida(carrito, cliente);
         return;
     case CasoAnulado::Pack:
-        carrito.pack(m_azar.hasta(static_cast<int>(m_negocio.catalogo.packs().size())), TipoLinea::F);
-        return;
     case CasoAnulado::PackSpa:
-        carrito.packSpa(0);
-        return;
     case CasoAnulado::ConsumoSpa:
-        carrito.servicio(m_negocio.catalogo.packsSpa().front().servicios.front(), TipoLinea::CPSPA);
+        packAnulado(carrito, caso);
         return;
     case CasoAnulado::IngresoEnDeposito:
         carrito.deposito(Dinero::euros(50));
@@ -120,6 +116,17 @@ void Mostrador::componeCompartida(Carrito& carrito, const Cliente& cliente)
         if (carrito.comparte())
             return;
     }
+}
+
+void Mostrador::packAnulado(Carrito& carrito, CasoAnulado caso)
+{
+    const Catalogo& catalogo = m_negocio.catalogo;
+    if (caso == CasoAnulado::Pack)
+        carrito.pack(m_azar.hasta(static_cast<int>(catalogo.packs().size())), TipoLinea::F);
+    else if (caso == CasoAnulado::PackSpa)
+        carrito.packSpa(0);
+    else
+        carrito.servicio(catalogo.packsSpa().front().servicios.front(), TipoLinea::CPSPA);
 }
 
 void Mostrador::bonoAnulado(Carrito& carrito, CasoAnulado caso)
