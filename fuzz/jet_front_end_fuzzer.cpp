@@ -3,6 +3,7 @@
 #include "platform/jet/catalogo_esquema.h"
 #include "platform/jet/forma.h"
 #include "platform/jet/lexer.h"
+#include "platform/jet/limites.h"
 #include "platform/jet/parser.h"
 #include "platform/jet/traductor.h"
 
@@ -10,6 +11,7 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
 
 // Any bytes as a statement: it is translated for the three engines or refused, and what must hold of every text holds of it.
 
@@ -26,11 +28,24 @@ void exige(bool condicion, const char* que, QStringView sentencia)
     std::abort();
 }
 
+/// More than the longest text that the limits of the grammar let an engine see.
+constexpr qsizetype BytesMaximos = limites::Escritos * 200;
+/// Of the processor, sanitizers included.
+constexpr std::clock_t SegundosMaximos = 5;
+
 /// What the fuzzer keeps between runs: the catalogues and the translators that read them.
 class Mesa
 {
 public:
     void prueba(QStringView sentencia)
+    {
+        const std::clock_t antes = std::clock();
+        pruebaTodo(sentencia);
+        exige(std::clock() - antes < SegundosMaximos * CLOCKS_PER_SEC, "a text keeps the front end busy", sentencia);
+    }
+
+private:
+    void pruebaTodo(QStringView sentencia)
     {
         compruebaForma(sentencia);
         compruebaArbol(sentencia);
@@ -38,7 +53,6 @@ public:
             compruebaTraduccion(sentencia, traductor);
     }
 
-private:
     void compruebaForma(QStringView sentencia)
     {
         const auto tokens = tokeniza(sentencia);
@@ -82,6 +96,7 @@ private:
         if (!traduccion)
             return compruebaError(traduccion.error(), sentencia);
         const Traduccion& hecha = traduccion.valor();
+        exige(hecha.sql.size() <= BytesMaximos, "the text for an engine grows without bound", sentencia);
         exige(hecha.sql.count('?') == static_cast<qsizetype>(hecha.parametros.size()), "marks and parameters differ", sentencia);
         exige(!hecha.sql.contains("--") && !hecha.sql.contains("/*"), "a comment in the text", sentencia);
         if (!hecha.parametros.empty())
