@@ -67,7 +67,7 @@ TEST(OdbcErroresAlEjecutar, PostgreSqlIsReadByItsState)
         expectCategoria(jet::Motor::PostgreSql, estado, 1, categoria);
     };
     expect(u"42P01"_s, Categoria::Sentencia);
-    expect(u"22012"_s, Categoria::Sentencia);
+    expect(u"42883"_s, Categoria::Sentencia);
     expect(u"08S01"_s, Categoria::ConexionPerdida);
     expect(u"57P01"_s, Categoria::ConexionPerdida);
     expect(u"55P03"_s, Categoria::Ocupada);
@@ -78,6 +78,21 @@ TEST(OdbcErroresAlEjecutar, PostgreSqlIsReadByItsState)
     expect(u"42501"_s, Categoria::SoloLectura);
     expect(u"53100"_s, Categoria::SinSitio);
     expect(u"XX001"_s, Categoria::Danada);
+}
+
+TEST(OdbcErroresAlEjecutar, DivisionByZeroAndOverflowAreToldAsOnTheEmbeddedDatabase)
+{
+    const auto descripcion = [](jet::Motor motor, const QString& estado, qint32 nativo, const QString& texto) {
+        const std::vector<Diagnostico> diagnosticos{{estado, nativo, texto}};
+        return errorAlEjecutar(motor, diagnosticos, Origen).descripcion();
+    };
+    const QString porCero = u"La base de datos rechaza la sentencia: División por cero."_s;
+    EXPECT_EQ(descripcion(jet::Motor::PostgreSql, u"22012"_s, 1, u"ERROR: division by zero"_s), porCero);
+    EXPECT_EQ(descripcion(jet::Motor::MariaDb, u"22003"_s, 1690, u"DOUBLE value is out of range in 'pow(0,-1)'"_s), porCero);
+    EXPECT_TRUE(
+        descripcion(jet::Motor::PostgreSql, u"22003"_s, 1, u"ERROR: integer out of range"_s).endsWith(u": Desbordamiento."));
+    EXPECT_TRUE(descripcion(jet::Motor::MariaDb, u"22003"_s, 1690, u"BIGINT value is out of range in '(7 * 4294967296)'"_s)
+                    .endsWith(u": Desbordamiento."));
 }
 
 TEST(OdbcErroresAlEjecutar, MariaDbIsReadByItsNumber)
