@@ -86,22 +86,19 @@ void Devoluciones::apunta(const Venta& venta)
 bool Devoluciones::sePuede(const Venta& venta) const
 {
     const bool escasos = m_negocio.parametros.tamano == Tamano::Dia; // what was paid before is needed for today
-    for (const Linea& linea : venta.lineas) {
-        if (escasos && (esBono(linea) || linea.tipo == TipoLinea::PSPA || esIngreso(linea)))
-            return false;
-        if (esBono(linea) && !m_bonos.intacto(venta.numero))
-            return false;
-        if (linea.tipo == TipoLinea::PSPA && !m_bonos.intactoSpa(venta.cliente))
-            return false;
-        if (esIngreso(linea) && m_negocio.clientela.cliente(venta.cliente).deposito < linea.precio)
-            return false;
-    }
-    return true;
+    return std::ranges::all_of(venta.lineas, [&](const Linea& linea) {
+        if (esBono(linea))
+            return !escasos && m_bonos.intacto(venta.numero);
+        if (linea.tipo == TipoLinea::PSPA)
+            return !escasos && m_bonos.intactoSpa(venta.cliente);
+        return !esIngreso(linea) || (!escasos && m_negocio.clientela.cliente(venta.cliente).deposito >= linea.precio);
+    });
 }
 
 std::vector<Devoluciones::Rareza> Devoluciones::rarezas(const Recuerdo& recuerdo) const
 {
     std::vector<Rareza> suyas;
+    suyas.reserve(recuerdo.venta.lineas.size() + 4);
     for (const Linea& linea : recuerdo.venta.lineas)
         suyas.push_back(esIngreso(linea)        ? IngresoEnDeposito
                         : linea.reparto.empty() ? static_cast<Rareza>(linea.tipo)
