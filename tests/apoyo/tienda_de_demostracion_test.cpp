@@ -18,7 +18,7 @@ TEST(TiendaDeDemostracion, BothDatabasesHaveTheRowsOfTheFlavourAskedFor)
     EXPECT_EQ(opciones.Fields(u"tipo_programa").texto(), u"SPA"_s);
     EXPECT_EQ(opciones.Fields(u"nombre").texto(), demo::sabor(demo::TipoTienda::Spa).empresa);
     Recordset packs;
-    packs.Open(u"cabecera_pack_spa"_s, tienda.tienda());
+    packs.Open(u"Select codigo from cabecera_pack_spa where borrar = 0"_s, tienda.tienda());
     EXPECT_EQ(packs.RecordCount(), static_cast<int>(demo::sabor(demo::TipoTienda::Spa).packsSpa.size()));
     Recordset listas;
     listas.Open(u"listadostemporal"_s, tienda.listados());

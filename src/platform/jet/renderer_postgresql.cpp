@@ -27,7 +27,7 @@ void RendererPostgresql::comoTexto(const Expresion& valor)
     envuelto({"REPLACE(CASE WHEN CAST(", " AS numeric) = 0"}, valor);
     envuelto({" OR ABS(CAST(", " AS numeric)) BETWEEN 0.0001 AND 999999999999999"}, valor);
     envuelto({" THEN CAST(TRIM_SCALE(CAST(", " AS numeric)) AS text)"}, valor);
-    envuelto({" ELSE REGEXP_REPLACE(TRIM(TO_CHAR(CAST(", " AS numeric), '9.99999999999999EEEE')), '[.]?0*e', 'E') END, '.', '"},
+    envuelto({" ELSE REGEXP_REPLACE(TRIM(TO_CHAR(CAST(", " AS numeric), '9.99999999999999EEEE')), '[.]{0,1}0*e', 'E') END, '.', '"},
              valor);
     pon(QString(m_regional.marcaDecimal).toUtf8().constData());
     pon("')");

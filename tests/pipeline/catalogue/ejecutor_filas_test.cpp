@@ -109,7 +109,10 @@ TEST_F(EjecutorTest, ProductsSoldOpenTheirSecondDialogThoughTheFirstWasLeftAndAs
 
 TEST_F(EjecutorTest, TheEmployeeHistoryTakesBuilderAndLayoutFromTheAnswer)
 {
-    m_pantalla.alMostrar = [this](Dialogo) { m_contexto.FiltroAceptado = m_contexto.filtros.totalizado = true; };
+    m_pantalla.alMostrar = [this](Dialogo) {
+        m_contexto.FiltroAceptado = m_contexto.filtros.totalizado = true;
+        m_contexto.filtros.empleado = -1;
+    };
     EXPECT_EQ(ejecuta(u"cmd_Ventas6").sliced(1),
               (QStringList{u"parar"_s, u"construye[]"_s, u"drena"_s, u"drena"_s, u"impresora Laser"_s,
                            u"imprime K_ListadoHisXEmp1.rpt"_s, u"cerrar"_s}));

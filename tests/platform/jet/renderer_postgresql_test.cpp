@@ -97,7 +97,8 @@ TEST(RendererPostgresqlTest, NumbersAndDatesAsTextsAreTheRegionalOnes)
         u"total & ''"_s,
         u"COALESCE(REPLACE(CASE WHEN CAST(t0.\"total\" AS numeric) = 0 OR ABS(CAST(t0.\"total\" AS numeric)) BETWEEN 0.0001 AND "
         "999999999999999 THEN CAST(TRIM_SCALE(CAST(t0.\"total\" AS numeric)) AS text) ELSE "
-        "REGEXP_REPLACE(TRIM(TO_CHAR(CAST(t0.\"total\" AS numeric), '9.99999999999999EEEE')), '[.]?0*e', 'E') END, '.', ','), '') "
+        "REGEXP_REPLACE(TRIM(TO_CHAR(CAST(t0.\"total\" AS numeric), '9.99999999999999EEEE')), '[.]{0,1}0*e', 'E') END, '.', ','), "
+        "'') "
         "|| "
         "CAST(? AS text)"_s);
     expresion(u"fecha & ''"_s, u"COALESCE(CASE WHEN CAST(t0.\"fecha\" AS date) = DATE '1899-12-30' THEN TO_CHAR(t0.\"fecha\", "
