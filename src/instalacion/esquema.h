@@ -37,7 +37,7 @@ struct BaseEsquema
     std::span<const TablaEsquema> tablas;
 
     /// The table of that name, case ignored, or nullptr.
-    [[nodiscard]] const TablaEsquema* tabla(QStringView nombre) const;
+    [[nodiscard]] const TablaEsquema* tabla(QStringView buscada) const;
 };
 
 /// The shop's database, "TiendaKestrane".

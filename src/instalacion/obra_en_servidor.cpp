@@ -16,9 +16,9 @@ using database::MotorBase;
 class ObraEnServidor : public Obra
 {
 public:
-    ObraEnServidor(const BaseEsquema& base, const QString& dsn, std::unique_ptr<MotorBase> motor)
+    ObraEnServidor(const BaseEsquema& base, QString dsn, std::unique_ptr<MotorBase> motor)
         : m_base{base}
-        , m_dsn{dsn}
+        , m_dsn{std::move(dsn)}
         , m_motor{std::move(motor)}
     {
     }

@@ -49,9 +49,9 @@ bool esLaMisma(const QString& una, const QString& otra)
 
 } // namespace
 
-CopiaListados::CopiaListados(const database::OpcionesDatos& originales, const QString& destino)
+CopiaListados::CopiaListados(const database::OpcionesDatos& originales, QString destino)
     : m_originales{originales}
-    , m_destino{destino}
+    , m_destino{std::move(destino)}
     , m_carpeta{haceCarpeta()}
     , m_copia{originales}
 {

@@ -20,7 +20,7 @@ public:
     /// "" when it is not; it is made when it is not there. ErrorEjecucion when the original lacks a table or cannot be opened, when
     /// the copy cannot be written, and when `destino` is the original's folder or holds a shop's database, whose reports database
     /// would be lost.
-    CopiaListados(const database::OpcionesDatos& originales, const QString& destino);
+    CopiaListados(const database::OpcionesDatos& originales, QString destino);
 
     /// Where it lies while it is worked with.
     [[nodiscard]] QString carpeta() const { return m_carpeta->path(); }

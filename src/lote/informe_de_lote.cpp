@@ -52,8 +52,8 @@ public:
     int corre()
     {
         llenaContexto();
-        if (pedido().tienda)
-            eligeTienda(m_contexto, *pedido().tienda);
+        if (const auto& tienda = pedido().tienda)
+            eligeTienda(m_contexto, *tienda);
         ejecuta();
         m_salida.termina();
         m_contexto.ConexionListados.Close();

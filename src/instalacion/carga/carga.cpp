@@ -60,6 +60,7 @@ void Carga::prepara(Entrada& suya)
         return;
     }
     std::vector<jet::TipoColumna> tipos;
+    tipos.reserve(suya.columnas.size());
     for (const int columna : suya.columnas)
         tipos.push_back(suya.tabla->columnas[static_cast<std::size_t>(columna)].tipo);
     suya.insercion = m_motor.prepara(database::sqlInsercion(m_motor.clase(), *suya.tabla, suya.columnas), tipos, {});

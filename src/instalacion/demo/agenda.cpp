@@ -114,12 +114,17 @@ void Agenda::futuras(const Tienda& tienda)
             continue;
         const int citas = esComercio(m_negocio.sabor) ? m_azar.hasta(2) : std::max(1, 16 - dias / 2 - m_azar.hasta(5));
         abreDia(tienda.nombre, fecha);
-        const Turnantes turno = m_negocio.plantilla.deTurno(tienda.numero, fecha);
-        for (int i = 0; i < citas; ++i) {
-            if (std::optional<Cita> cita = nueva(tienda.numero, turno)) {
-                cita->anulada = m_azar.porCien(6);
-                escribe(*cita);
-            }
+        reserva(tienda, fecha, citas);
+    }
+}
+
+void Agenda::reserva(const Tienda& tienda, Fecha fecha, int citas)
+{
+    const Turnantes turno = m_negocio.plantilla.deTurno(tienda.numero, fecha);
+    for (int i = 0; i < citas; ++i) {
+        if (std::optional<Cita> cita = nueva(tienda.numero, turno)) {
+            cita->anulada = m_azar.porCien(6);
+            escribe(*cita);
         }
     }
 }

@@ -42,6 +42,7 @@ private:
         int hasta = 0;
     };
 
+    void reserva(const Tienda& tienda, Fecha fecha, int citas);
     void escribe(const Cita& cita);
     [[nodiscard]] std::optional<Cita> nueva(int numeroTienda, const Turnantes& turno);
     [[nodiscard]] bool libre(int empleado, int desde, int minutos) const;

@@ -155,7 +155,7 @@ void Almacen::cuenta(const Turno& turno, Movimiento movimiento, int articulos)
 Articulo& Almacen::unoDe(ClaseProducto clase)
 {
     auto& todos = m_negocio.catalogo.articulos();
-    std::size_t lugar = static_cast<std::size_t>(m_azar.hasta(static_cast<int>(todos.size())));
+    auto lugar = static_cast<std::size_t>(m_azar.hasta(static_cast<int>(todos.size())));
     while (todos[lugar].datos->clase != clase)
         lugar = (lugar + 1) % todos.size();
     return todos[lugar];

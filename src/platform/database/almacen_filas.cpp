@@ -8,7 +8,7 @@ namespace kestrane::database {
 namespace {
 
 constexpr qsizetype Cabecera = sizeof(quint32);
-constexpr qsizetype MemoriaConservada = 64 * 1024;
+constexpr qsizetype MemoriaConservada = qsizetype{64} * 1024;
 
 /// Bytes of the field that begins with its type at `celda`, and where its content lies.
 Celda desempaqueta(const char* celda)

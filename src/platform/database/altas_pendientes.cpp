@@ -142,21 +142,27 @@ void AltasPendientes::enviaUnaAUna(Lote& lote, MotorBase& motor)
         copiaFila(lote.filas, impedimento ? quedan : una);
         if (impedimento)
             continue;
-        try {
-            motor.insertaFilas(lote.tabla, lote.columnas, una);
-        } catch (const ErrorMotor& error) {
-            if (esDeLaFila(error)) {
-                rechaza(error, lote.tabla);
-                continue;
-            }
-            impedimento = std::current_exception();
+        impedimento = enviaUna(lote, una, motor);
+        if (impedimento)
             copiaFila(lote.filas, quedan);
-        }
     }
     m_filas -= static_cast<int>(lote.filas.filas() - quedan.filas());
     lote.filas = std::move(quedan);
     if (impedimento)
         std::rethrow_exception(impedimento);
+}
+
+/// Returns what stands in the way of this row and the next ones, if anything does.
+std::exception_ptr AltasPendientes::enviaUna(const Lote& lote, AlmacenFilas& una, MotorBase& motor)
+{
+    try {
+        motor.insertaFilas(lote.tabla, lote.columnas, una);
+    } catch (const ErrorMotor& error) {
+        if (!esDeLaFila(error))
+            return std::current_exception();
+        rechaza(error, lote.tabla);
+    }
+    return nullptr;
 }
 
 void AltasPendientes::rechaza(const ErrorMotor& error, const jet::Tabla& tabla)
@@ -168,13 +174,13 @@ void AltasPendientes::rechaza(const ErrorMotor& error, const jet::Tabla& tabla)
 
 void AltasPendientes::avisaDeRechazos(int antes)
 {
-    if (!m_primerRechazo)
+    const std::optional<ErrorEjecucion> primero = std::exchange(m_primerRechazo, std::nullopt);
+    if (!primero)
         return;
-    const ErrorEjecucion primero = *std::exchange(m_primerRechazo, std::nullopt);
     const int otras = m_rechazadas - antes - 1;
     if (otras == 0)
-        throw primero;
-    throw primero.conContexto(u"Otras %1 filas tampoco se han guardado."_s.arg(otras));
+        throw ErrorEjecucion{*primero};
+    throw primero->conContexto(u"Otras %1 filas tampoco se han guardado."_s.arg(otras));
 }
 
 void AltasPendientes::olvidaTablas()

@@ -5,6 +5,7 @@
 #include "platform/database/error_motor.h"
 #include "platform/database/motor.h"
 
+#include <exception>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -42,6 +43,7 @@ private:
     [[nodiscard]] Lote& loteDe(const jet::Tabla& tabla);
     void enviaLote(Lote& lote, MotorBase& motor);
     void enviaUnaAUna(Lote& lote, MotorBase& motor);
+    [[nodiscard]] std::exception_ptr enviaUna(const Lote& lote, AlmacenFilas& una, MotorBase& motor);
     void rechaza(const ErrorMotor& error, const jet::Tabla& tabla);
     void avisaDeRechazos(int antes);
 

@@ -170,6 +170,14 @@ bool entera(PesoSimple letra, const Unidad* tras, const Unidad* fin, const PesoS
     return letra.letra != tabla[EneSuelta].letra || tras == fin || tomaSimple(tras, fin, siguiente, tabla);
 }
 
+/// What the longer of two texts has left decides if it counts at all; it may be a mark on what came before.
+template<class Unidad>
+std::optional<int> siCuenta(const Unidad* resto, const Unidad* fin, const PesoSimple* tabla, int orden)
+{
+    PesoSimple primera;
+    return tomaSimple(resto, fin, primera, tabla) ? std::optional{orden} : std::nullopt;
+}
+
 /// The order of two texts of simple characters, found in one pass: the first letters that differ decide, else the first accents
 /// that do. Nothing when there is any other character before the decision.
 template<class Unidad>
@@ -189,13 +197,9 @@ std::optional<int> comparaSimples(const Unidad* a, const Unidad* finA, const Uni
         if (uno.acento != otro.acento && porAcento == 0)
             porAcento = uno.acento < otro.acento ? -1 : 1;
     }
-    if (a == finA && b == finB)
-        return porAcento;
-    // What is left over decides if it counts at all, and may be a mark on what came before.
-    PesoSimple resto;
     if (a != finA)
-        return tomaSimple(a, finA, resto, tabla) ? std::optional{1} : std::nullopt;
-    return tomaSimple(b, finB, resto, tabla) ? std::optional{-1} : std::nullopt;
+        return siCuenta(a, finA, tabla, 1);
+    return b == finB ? std::optional{porAcento} : siCuenta(b, finB, tabla, -1);
 }
 
 template<class Puntos, class Vista, class Unidad>
@@ -243,7 +247,7 @@ QString plegado(QStringView texto)
 
 size_t hashDeNombre(QStringView nombre)
 {
-    size_t hash = static_cast<size_t>(nombre.size());
+    auto hash = static_cast<size_t>(nombre.size());
     for (const QChar c : nombre)
         hash = hash * 31 + plegadaUnidad(c);
     return hash;

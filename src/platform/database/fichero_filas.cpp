@@ -10,7 +10,7 @@ namespace kestrane::database {
 
 namespace {
 
-constexpr qsizetype Tramo = 256 * 1024;
+constexpr qsizetype Tramo = qsizetype{256} * 1024;
 
 [[noreturn]] void sinDisco(const QTemporaryFile& fichero)
 {

@@ -93,11 +93,7 @@ bool casaDespacio(std::string_view patron, std::string_view texto)
 
 bool tieneComodin(std::string_view patron)
 {
-    for (const char c : patron) {
-        if (c == '%' || c == '_')
-            return true;
-    }
-    return false;
+    return patron.find_first_of("%_") != std::string_view::npos;
 }
 
 } // namespace

@@ -86,6 +86,7 @@ std::shared_ptr<const AlmacenFilas> Sesion::leeAdelantado(Anticipacion& anticipa
     if (claves.size() < 2)
         return nullptr;
     std::vector<QString> sentencias;
+    sentencias.reserve(claves.size());
     for (const QString& una : claves)
         sentencias.push_back(anticipacion.sentencia(una));
     try {

@@ -16,7 +16,7 @@ namespace {
 
 using jet::TipoColumna;
 
-constexpr qsizetype BytesDelPrimerBloque = 4 * 1024;
+constexpr qsizetype BytesDelPrimerBloque = qsizetype{4} * 1024;
 constexpr int FilasDelPrimerBloque = 16;
 /// Characters of a text that has a place in the block; longer ones are read on their own.
 constexpr SQLULEN CaracteresEnBloque = 255;
@@ -127,10 +127,10 @@ OdbcColumnas::Columna OdbcColumnas::describeTexto(int indice, TipoColumna tipo)
     if (!cabe && !m_conexion.leeLargosPorPosicion())
         m_maximoFilas = 1;
     const SQLULEN enBloque = cabe ? caracteres : CaracteresEnBloque;
-    const SQLULEN bytesPorCaracter = 4; // a pair of surrogates, or the longest form in UTF-8
+    const qsizetype bytesPorCaracter = 4; // a pair of surrogates, or the longest form in UTF-8
     return {.tipo = tipo,
             .tipoC = m_conexion.tipoTexto(),
-            .ancho = static_cast<SQLLEN>(alineado(static_cast<qsizetype>(enBloque * bytesPorCaracter)) + bytesDelFinal())};
+            .ancho = static_cast<SQLLEN>(alineado(static_cast<qsizetype>(enBloque) * bytesPorCaracter) + bytesDelFinal())};
 }
 
 int OdbcColumnas::filasQueCaben(qsizetype bytes) const

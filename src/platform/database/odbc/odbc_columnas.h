@@ -45,13 +45,13 @@ private:
     [[nodiscard]] bool leeBloque();
     void exigeFilasBuenas(SQLRETURN resultado);
     void copiaFila(AlmacenFilas& destino);
-    void copiaCelda(AlmacenFilas& destino, int columna);
-    void copiaFecha(AlmacenFilas& destino, int columna, const char* celda);
-    [[noreturn]] void fechaIlegible(int columna, const QString& leida) const;
-    [[nodiscard]] QString nombre(int columna) const;
-    void copiaTexto(AlmacenFilas& destino, int columna, SQLLEN bytes);
-    void leeTextoLargo(AlmacenFilas& destino, int columna, SQLLEN bytes);
-    [[nodiscard]] SQLLEN leeTrozo(int columna, char* donde, SQLLEN sitio);
+    void copiaCelda(AlmacenFilas& destino, int indice);
+    void copiaFecha(AlmacenFilas& destino, int indice, const char* celda);
+    [[noreturn]] void fechaIlegible(int indice, const QString& leida) const;
+    [[nodiscard]] QString nombre(int indice) const;
+    void copiaTexto(AlmacenFilas& destino, int indice, SQLLEN bytes);
+    void leeTextoLargo(AlmacenFilas& destino, int indice, SQLLEN bytes);
+    [[nodiscard]] SQLLEN leeTrozo(int indice, char* donde, SQLLEN sitio);
     [[nodiscard]] SQLLEN largoDeTrozo(const char* trozo, SQLLEN sitio) const;
     void ponTexto(AlmacenFilas& destino, const char* texto, SQLLEN bytes) const;
     [[nodiscard]] SQLLEN bytesDelFinal() const { return m_conexion.enUtf8() ? 1 : SQLLEN{sizeof(SQLWCHAR)}; }

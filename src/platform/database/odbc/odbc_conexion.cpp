@@ -160,7 +160,7 @@ void OdbcConexion::lanzaDe(SQLSMALLINT clase, SQLHANDLE manejador)
     const auto hallados = diagnosticos(clase, manejador);
     const ErrorMotor error = errorAlEjecutar(m_motor, hallados, m_origen, enlace());
     m_perdida = m_perdida || error.categoria() == ErrorMotor::Categoria::ConexionPerdida;
-    throw error;
+    throw ErrorMotor{error};
 }
 
 /// Not every loss has a state of its own; the driver knows it without asking the server.

@@ -202,7 +202,7 @@ Categoria categoriaPostgreSql(const Diagnostico& diagnostico)
 
 Categoria categoriaMariaDb(const Diagnostico& diagnostico)
 {
-    const auto caso = std::ranges::find(CasosMariaDb, diagnostico.nativo, &CasoNativo::nativo);
+    const auto* const caso = std::ranges::find(CasosMariaDb, diagnostico.nativo, &CasoNativo::nativo);
     if (caso != std::end(CasosMariaDb))
         return caso->categoria;
     return diagnostico.estado.startsWith("08"_L1) ? Categoria::ConexionPerdida : Categoria::Sentencia;
@@ -223,7 +223,7 @@ ErrorMotor errorAlAbrir(std::span<const Diagnostico> diagnosticos, const OrigenD
 {
     const Diagnostico ninguno;
     const Diagnostico& diagnostico = elDeMasPeso(diagnosticos, ninguno);
-    const auto caso = std::ranges::find_if(CasosApertura, [&](const CasoApertura& uno) { return encaja(uno, diagnostico); });
+    const auto* const caso = std::ranges::find_if(CasosApertura, [&](const CasoApertura& uno) { return encaja(uno, diagnostico); });
     const QString usuario = origen.usuario.isEmpty() ? QString{} : u" \"%1\""_s.arg(origen.usuario);
     const QString frase = QString::fromUtf16(textoDe(caso->frase)).replace(u"%1"_s, origen.dsn).replace(u"%2"_s, usuario);
     const Categoria categoria = caso->frase == Frase::SinServidor ? Categoria::ConexionPerdida : Categoria::Sentencia;

@@ -21,9 +21,9 @@ struct OpcionesOdbc
     std::chrono::seconds esperaRespuesta{900};
     /// After how long without a word it is asked whether the server's machine is still there (PostgreSQL).
     std::chrono::seconds sondeo{60};
-    int filasPorBloque = 200;                  ///< rows fetched at once of a result that is not small
-    qsizetype bytesPorBloque = 256 * 1024;     ///< and the bytes of their buffers
-    qsizetype bytesPorEnvio = 4 * 1024 * 1024; ///< of the rows inserted by one statement
+    int filasPorBloque = 200;                             ///< rows fetched at once of a result that is not small
+    qsizetype bytesPorBloque = qsizetype{256} * 1024;     ///< and the bytes of their buffers
+    qsizetype bytesPorEnvio = qsizetype{4} * 1024 * 1024; ///< of the rows inserted by one statement
     FormaTexto forma = FormaTexto::SegunControlador;
 };
 

@@ -80,7 +80,7 @@ void OdbcParametros::liga(size_t indice)
     Marca& marca = m_marcas[indice];
     const Paso paso = pasoDe(marca.tipo, m_conexion.enUtf8());
     const bool texto = esTexto(marca.tipo);
-    SQLPOINTER const donde = texto ? static_cast<SQLPOINTER>(marca.texto.get()) : static_cast<SQLPOINTER>(&marca.fecha);
+    void* const donde = texto ? static_cast<void*>(marca.texto.get()) : static_cast<void*>(&marca.fecha);
     m_conexion.exige(SQLBindParameter(m_sentencia, static_cast<SQLUSMALLINT>(indice + 1), SQL_PARAM_INPUT, paso.tipoC, paso.tipoSql,
                                       paso.precision, 0, donde, texto ? marca.capacidad : 0, &marca.indicador),
                      m_sentencia);

@@ -65,13 +65,14 @@ using ManejadorSentencia = Manejador<SQL_HANDLE_STMT>;
 /// An attribute whose value is a number, as the interface passes it.
 [[nodiscard]] inline SQLPOINTER numeroComoPuntero(quintptr numero)
 {
-    return reinterpret_cast<SQLPOINTER>(numero);
+    return reinterpret_cast<SQLPOINTER>(numero); // NOLINT(performance-no-int-to-ptr): so the interface wants it
 }
 
 /// UTF-16 text as the interface takes it; it does not write to it.
 [[nodiscard]] inline SQLWCHAR* textoAncho(const QString& texto)
 {
     static_assert(sizeof(SQLWCHAR) == sizeof(char16_t));
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast): its types say less than its promise
     return reinterpret_cast<SQLWCHAR*>(const_cast<char16_t*>(reinterpret_cast<const char16_t*>(texto.utf16())));
 }
 

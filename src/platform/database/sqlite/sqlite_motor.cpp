@@ -21,7 +21,7 @@ SqliteMotor::SqliteMotor(OpcionesSqlite opciones) : m_opciones{std::move(opcione
 {
     abre();
     configura();
-    m_abierta = true;
+    m_abierta = true; // NOLINT(cppcoreguidelines-prefer-member-initializer): the errors so far are those of opening
 }
 
 SqliteMotor::~SqliteMotor() = default;

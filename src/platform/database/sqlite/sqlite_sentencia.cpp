@@ -136,7 +136,7 @@ void SqliteSentencia::avanza()
         return reinicia();
     const ErrorMotor error = m_motor.error(codigo);
     reinicia();
-    throw error;
+    throw ErrorMotor{error};
 }
 
 bool SqliteSentencia::siguiente(AlmacenFilas& destino)
