@@ -17,6 +17,6 @@ struct Medida
 [[nodiscard]] Medida medida(const enlazado::Expresion& expresion);
 
 /// Refuses a statement that is past the measures of limites.h, by throwing a Rechazo.
-void compruebaMedida(const enlazado::Sentencia& sentencia);
+void compruebaMedida(const enlazado::Sentencia& una);
 
 } // namespace kestrane::jet

@@ -58,7 +58,8 @@ private:
     ast::ExpresionPtr parseOperando(ast::Precedencia minima);
     ast::ExpresionPtr parseUnaria(ast::OperadorUnario operador, ast::Precedencia delOperando);
     ast::ExpresionPtr parseBinaria(ast::ExpresionPtr izquierda);
-    ast::ExpresionPtr parsePrueba(ast::ExpresionPtr&& valor);
+    [[nodiscard]] bool hayPrueba() const;
+    ast::ExpresionPtr parsePrueba(ast::ExpresionPtr valor);
     ast::ExpresionPtr parseEsNulo(ast::ExpresionPtr valor);
     ast::ExpresionPtr parseParecido(ast::ExpresionPtr valor, ast::Sentido sentido);
     ast::ExpresionPtr parseEntre(ast::ExpresionPtr valor, ast::Sentido sentido);

@@ -52,10 +52,9 @@ ast::ExpresionPtr Parser::parseExpresion(Precedencia minima)
             izquierda = parseBinaria(std::move(izquierda));
             continue;
         }
-        ast::ExpresionPtr prueba = minima <= Precedencia::Comparacion ? parsePrueba(std::move(izquierda)) : nullptr;
-        if (!prueba)
+        if (minima > Precedencia::Comparacion || !hayPrueba())
             return izquierda;
-        izquierda = std::move(prueba);
+        izquierda = parsePrueba(std::move(izquierda));
     }
 }
 
@@ -91,15 +90,19 @@ ast::ExpresionPtr Parser::parseBinaria(ast::ExpresionPtr izquierda)
     return nodo(ast::Binaria{fila.operador, std::move(izquierda), std::move(derecha)}, lugar, debajo);
 }
 
-/// IS, LIKE, BETWEEN and IN behind a value; when none stands here `valor` is left as it is and nullptr comes back.
-ast::ExpresionPtr Parser::parsePrueba(ast::ExpresionPtr&& valor)
+/// IS, LIKE, BETWEEN and IN behind a value, the last three with or without NOT.
+bool Parser::hayPrueba() const
+{
+    const ClaseToken palabra = esta(ClaseToken::Not) ? siguiente().clase : actual().clase;
+    return esta(ClaseToken::Is) || palabra == ClaseToken::Like || palabra == ClaseToken::Between || palabra == ClaseToken::In;
+}
+
+ast::ExpresionPtr Parser::parsePrueba(ast::ExpresionPtr valor)
 {
     if (esta(ClaseToken::Is))
         return parseEsNulo(std::move(valor));
     const bool negada = esta(ClaseToken::Not);
     const ClaseToken palabra = negada ? siguiente().clase : actual().clase;
-    if (palabra != ClaseToken::Like && palabra != ClaseToken::Between && palabra != ClaseToken::In)
-        return nullptr;
     m_indice += negada ? 2 : 1;
     const Sentido sentido = negada ? Sentido::Negado : Sentido::Afirmado;
     if (palabra == ClaseToken::Between)

@@ -54,7 +54,7 @@ std::optional<ClaseToken> palabraClave(QStringView palabra)
         minusculas[static_cast<size_t>(i)] = minuscula(palabra[i].unicode());
     }
     const std::string_view buscada(minusculas.data(), static_cast<size_t>(palabra.size()));
-    const auto donde = std::ranges::lower_bound(Palabras, buscada, {}, &Entrada::texto);
+    const auto* const donde = std::ranges::lower_bound(Palabras, buscada, {}, &Entrada::texto);
     if (donde == Palabras.end() || donde->texto != buscada)
         return std::nullopt;
     return donde->clase;

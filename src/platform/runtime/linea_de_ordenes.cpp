@@ -10,7 +10,7 @@ namespace {
 
 QString sinGuiones(const QString& argumento)
 {
-    const auto primera = std::ranges::find_if(argumento, [](QChar signo) { return signo != u'-'; });
+    const auto* const primera = std::ranges::find_if(argumento, [](QChar signo) { return signo != u'-'; });
     return argumento.sliced(primera - argumento.begin());
 }
 

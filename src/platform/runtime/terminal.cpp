@@ -33,7 +33,7 @@ bool estaAbierto(std::FILE* fichero)
 void rehusaTuberiasRotas()
 {
 #ifndef Q_OS_WIN
-    std::signal(SIGPIPE, SIG_IGN);
+    static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
 #endif
 }
 
