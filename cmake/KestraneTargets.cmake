@@ -25,11 +25,15 @@ if(KESTRANE_FUZZ)
 endif()
 
 # kestrane_library(NAME SOURCES a.cpp ... [PUBLIC dep ...] [PRIVATE dep ...])
+# One that links Qt6::Widgets has its headers read by moc.
 function(kestrane_library name)
   cmake_parse_arguments(ARG "" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
   add_library(${name} STATIC ${ARG_SOURCES})
   target_include_directories(${name} PUBLIC "${PROJECT_SOURCE_DIR}/src")
   target_link_libraries(${name} PUBLIC kestrane_options ${ARG_PUBLIC} PRIVATE ${ARG_PRIVATE})
+  if("Qt6::Widgets" IN_LIST ARG_PUBLIC OR "Qt6::Widgets" IN_LIST ARG_PRIVATE)
+    set_target_properties(${name} PROPERTIES AUTOMOC ON)
+  endif()
 endfunction()
 
 # kestrane_program(NAME SOURCES a.cpp ... LINK dep ...)
@@ -41,13 +45,19 @@ function(kestrane_program name)
 endfunction()
 
 # kestrane_test(NAME SOURCES a_test.cpp ... LINK dep ... [LABELS unit|servers ...] [TIMEOUT seconds]
-#               [SERVIDORES todos|postgresql|mariadb])
-# With SERVIDORES it runs beside private database servers that start and end with it, and its label is servers.
+#               [SERVIDORES todos|postgresql|mariadb] [QT gui|widgets])
+# With SERVIDORES it runs beside private database servers that start and end with it, and its label is servers. With QT an application of
+# that kind stands around it, without a screen; widgets brings Qt Test.
 function(kestrane_test name)
-  cmake_parse_arguments(ARG "" "TIMEOUT;SERVIDORES" "SOURCES;LINK;LABELS" ${ARGN})
+  cmake_parse_arguments(ARG "" "TIMEOUT;SERVIDORES;QT" "SOURCES;LINK;LABELS" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
-  target_link_libraries(${name} PRIVATE kestrane_options ${ARG_LINK} GTest::gmock_main)
+  target_link_libraries(${name} PRIVATE kestrane_options ${ARG_LINK})
+  if(ARG_QT)
+    target_link_libraries(${name} PRIVATE kestrane_test_${ARG_QT})
+  else()
+    target_link_libraries(${name} PRIVATE GTest::gmock_main)
+  endif()
   if(NOT ARG_TIMEOUT)
     set(ARG_TIMEOUT 300)
   endif()

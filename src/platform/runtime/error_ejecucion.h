@@ -23,6 +23,7 @@ public:
         SinRegistroActual = 3021,
         CampoInexistente = 3265,
         ConexionImposible = -2147467259,
+        LayoutIncorrecto = 20001, ///< a report layout that is missing or broken
         SentenciaRechazada = -2147217900,
     };
 
