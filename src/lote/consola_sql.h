@@ -1,7 +1,7 @@
 #pragma once
 
-#include "lote/avisos.h"
 #include "platform/database/conexion.h"
+#include "platform/runtime/avisos.h"
 #include "platform/runtime/error_de_salida.h"
 #include "platform/runtime/error_ejecucion.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "lote/avisos.h"
 #include "lote/opciones.h"
 #include "platform/database/entorno_datos.h"
+#include "platform/runtime/avisos.h"
 
 #include <QIODevice>
 

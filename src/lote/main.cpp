@@ -4,24 +4,12 @@
 
 #include <QCoreApplication>
 
-namespace {
-
-kestrane::lote::DestinoErrores destinoErrores()
-{
-    using kestrane::lote::DestinoErrores;
-    if (!kestrane::esTerminal(stderr))
-        return DestinoErrores::Fichero;
-    return kestrane::esTerminal(stdout) ? DestinoErrores::TerminalConResultados : DestinoErrores::Terminal;
-}
-
-} // namespace
-
 // The application opens files of its own, which would take the place of a closed stream: the streams come first.
 int main(int argc, char** argv)
 {
     return kestrane::conSalidaEstandar(u"listados-lote", [&](QIODevice& salida, QIODevice& errores) {
         const QCoreApplication aplicacion{argc, argv};
         return kestrane::lote::ejecutaPrograma(QCoreApplication::arguments(), QCoreApplication::applicationDirPath(), salida,
-                                               errores, destinoErrores());
+                                               errores, kestrane::destinoErrores(stderr, stdout));
     });
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "lote/avisos.h"
 #include "pipeline/pantalla.h"
+#include "platform/runtime/avisos.h"
 
 /// What remains of the screen when there is none.
 namespace kestrane::lote {

@@ -2,14 +2,13 @@
 
 #include "lote/consola_sql.h"
 #include "lote/informe_de_lote.h"
-#include "lote/latido.h"
 #include "lote/opciones.h"
 #include "lote/peticion_imposible.h"
 #include "platform/database/entorno_datos.h"
+#include "platform/runtime/avisos_vivos.h"
 #include "platform/runtime/error_de_salida.h"
 #include "platform/runtime/motivo_sistema.h"
 
-#include <QElapsedTimer>
 #include <QFile>
 
 namespace kestrane::lote {
@@ -17,15 +16,6 @@ namespace kestrane::lote {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr std::chrono::milliseconds CadaLatido{200};
-
-Avisos::Cronometro cronometro()
-{
-    QElapsedTimer desde;
-    desde.start();
-    return [desde] { return desde.elapsed(); };
-}
 
 QString fraseDe(const ErrorEjecucion& error)
 {
@@ -120,16 +110,13 @@ int trabajaYDi(const Opciones& opciones, const EntornoDeLote& entorno)
 int ejecutaPrograma(const QStringList& argumentos, const QString& carpetaPrograma, QIODevice& salida, QIODevice& errores,
                     DestinoErrores destino)
 {
-    Avisos avisos{errores, destino, cronometro()};
+    AvisosVivos vivos{u"listados-lote"_s, errores, destino};
     const auto opciones = leeOpciones(argumentos, carpetaPrograma);
     if (!opciones) {
-        avisos.di(opciones.error().mensaje + u" Con --ayuda se ven las opciones."_s);
+        vivos.avisos().di(opciones.error().mensaje + u" Con --ayuda se ven las opciones."_s);
         return SalidaUso;
     }
-    std::optional<Latido> latido;
-    if (destino != DestinoErrores::Fichero)
-        latido.emplace(CadaLatido, [&avisos] { avisos.late(); });
-    return trabajaYDi(opciones.valor(), {carpetaPrograma, salida, avisos});
+    return trabajaYDi(opciones.valor(), {carpetaPrograma, salida, vivos.avisos()});
 }
 
 } // namespace kestrane::lote

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "lote/avisos.h"
 #include "lote/estado_de_salida.h"
+#include "platform/runtime/avisos.h"
 
 #include <QIODevice>
 #include <QStringList>

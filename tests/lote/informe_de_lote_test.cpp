@@ -116,7 +116,7 @@ protected:
     TiendaDePrueba m_tienda;
     QBuffer m_salida;
     QBuffer m_errores;
-    Avisos m_avisos{m_errores, DestinoErrores::Fichero, [] { return qint64{0}; }};
+    Avisos m_avisos{u"listados-lote"_s, m_errores, DestinoErrores::Fichero, [] { return qint64{0}; }};
     Opciones m_opciones;
 };
 
@@ -223,7 +223,7 @@ protected:
     }
 
     qint64 m_ahora = 0;
-    Avisos m_lentos{m_errores, DestinoErrores::Terminal, [this] { return m_ahora += 1000; }};
+    Avisos m_lentos{u"listados-lote"_s, m_errores, DestinoErrores::Terminal, [this] { return m_ahora += 1000; }};
 };
 
 TEST_F(InformeEnTerminal, ItsStepsAreCountedOnALineThatVanishes)

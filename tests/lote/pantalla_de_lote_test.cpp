@@ -16,7 +16,7 @@ protected:
 
     QBuffer m_errores;
     qint64 m_ahora = 5000;
-    Avisos m_avisos{m_errores, DestinoErrores::Terminal, [this] { return m_ahora; }};
+    Avisos m_avisos{u"listados-lote"_s, m_errores, DestinoErrores::Terminal, [this] { return m_ahora; }};
 };
 
 TEST_F(PantallaDeLote, MessagesAreLinesOfTheProgram)

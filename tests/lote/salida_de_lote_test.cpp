@@ -37,7 +37,7 @@ protected:
 
     InformesJson m_escritor;
     QBuffer m_errores;
-    Avisos m_avisos{m_errores, DestinoErrores::Fichero, [] { return qint64{0}; }};
+    Avisos m_avisos{u"listados-lote"_s, m_errores, DestinoErrores::Fichero, [] { return qint64{0}; }};
     MensajesDeLote m_mensajes{m_avisos};
     SalidaDeLote m_salida{m_contexto, u"cmd_Caja1", m_escritor, m_mensajes, m_tienda.carpeta()};
 };

@@ -30,6 +30,13 @@ bool estaAbierto(std::FILE* fichero)
 #endif
 }
 
+DestinoErrores destinoErrores(std::FILE* errores, std::FILE* salida)
+{
+    if (!esTerminal(errores))
+        return DestinoErrores::Fichero;
+    return esTerminal(salida) ? DestinoErrores::TerminalConResultados : DestinoErrores::Terminal;
+}
+
 void rehusaTuberiasRotas()
 {
 #ifndef Q_OS_WIN

@@ -10,6 +10,12 @@ namespace kestrane {
 /// False when the stream `fichero` was closed by whoever started the program.
 [[nodiscard]] bool estaAbierto(std::FILE* fichero);
 
+/// Who watches the errors as they come: nobody, somebody at a terminal, or somebody at a terminal to which the results go too.
+enum class DestinoErrores { Fichero, Terminal, TerminalConResultados };
+
+/// Who watches what is written to the open files `errores` and `salida`.
+[[nodiscard]] DestinoErrores destinoErrores(std::FILE* errores, std::FILE* salida);
+
 /// From now on a pipe whose reader is gone refuses what is written, in place of ending the program without a word.
 void rehusaTuberiasRotas();
 

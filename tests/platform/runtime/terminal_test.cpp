@@ -16,23 +16,51 @@ struct CierraFichero
 };
 using Fichero = std::unique_ptr<std::FILE, CierraFichero>;
 
+Fichero unFichero()
+{
+    return Fichero{std::tmpfile()};
+}
+
+Fichero unaTerminal()
+{
+    return Fichero{fdopen(posix_openpt(O_RDWR | O_NOCTTY), "w")};
+}
+
 TEST(EsTerminal, AFileIsNone)
 {
-    const Fichero fichero{std::tmpfile()};
+    const Fichero fichero = unFichero();
     ASSERT_TRUE(fichero);
     EXPECT_FALSE(esTerminal(fichero.get()));
 }
 
 TEST(EsTerminal, APseudoTerminalIsOne)
 {
-    const Fichero terminal{fdopen(posix_openpt(O_RDWR | O_NOCTTY), "w")};
+    const Fichero terminal = unaTerminal();
     ASSERT_TRUE(terminal);
     EXPECT_TRUE(esTerminal(terminal.get()));
 }
 
+TEST(DestinoErroresTest, ErrorsInAFileAreWatchedByNobodyWhereverResultsGo)
+{
+    const Fichero fichero = unFichero();
+    const Fichero terminal = unaTerminal();
+    ASSERT_TRUE(fichero && terminal);
+    EXPECT_EQ(destinoErrores(fichero.get(), fichero.get()), DestinoErrores::Fichero);
+    EXPECT_EQ(destinoErrores(fichero.get(), terminal.get()), DestinoErrores::Fichero);
+}
+
+TEST(DestinoErroresTest, ATerminalMayHaveTheResultsToo)
+{
+    const Fichero fichero = unFichero();
+    const Fichero terminal = unaTerminal();
+    ASSERT_TRUE(fichero && terminal);
+    EXPECT_EQ(destinoErrores(terminal.get(), fichero.get()), DestinoErrores::Terminal);
+    EXPECT_EQ(destinoErrores(terminal.get(), terminal.get()), DestinoErrores::TerminalConResultados);
+}
+
 TEST(EstaAbierto, AStreamThatWasClosedIsNot)
 {
-    const Fichero fichero{std::tmpfile()};
+    const Fichero fichero = unFichero();
     ASSERT_TRUE(fichero);
     EXPECT_TRUE(estaAbierto(fichero.get()));
     close(fileno(fichero.get()));

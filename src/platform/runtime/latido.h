@@ -6,7 +6,7 @@
 #include <mutex>
 #include <thread>
 
-namespace kestrane::lote {
+namespace kestrane {
 
 /// Does something over and over on a thread of its own while it lives, so that an operator sees a program alive that waits for a
 /// database or a disk.
@@ -29,4 +29,4 @@ private:
     std::jthread m_hilo; ///< the last member: it ends before the others go
 };
 
-} // namespace kestrane::lote
+} // namespace kestrane

@@ -1,11 +1,11 @@
-#include "lote/latido.h"
+#include "platform/runtime/latido.h"
 
 #include <gtest/gtest.h>
 
 #include <atomic>
 #include <semaphore>
 
-namespace kestrane::lote {
+namespace kestrane {
 namespace {
 
 using namespace std::chrono_literals;
@@ -28,4 +28,4 @@ TEST(LatidoTest, ItBeatsAgainAndAgain)
 }
 
 } // namespace
-} // namespace kestrane::lote
+} // namespace kestrane

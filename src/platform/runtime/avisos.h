@@ -1,15 +1,14 @@
 #pragma once
 
+#include "platform/runtime/terminal.h"
+
 #include <QIODevice>
 #include <QString>
 
 #include <functional>
 #include <mutex>
 
-namespace kestrane::lote {
-
-/// Who watches the errors as they come: nobody, somebody at a terminal, or somebody at a terminal to which the results go too.
-enum class DestinoErrores { Fichero, Terminal, TerminalConResultados };
+namespace kestrane {
 
 /// What the operator is told on the standard error: sentences, and on a terminal that a run takes long. From its second second on,
 /// a line there names the work and counts its steps; whatever else is said wipes it first, and so does the end. Safe to beat from
@@ -20,8 +19,8 @@ public:
     /// Milliseconds since any moment in the past.
     using Cronometro = std::function<qint64()>;
 
-    /// `errores` outlives the object.
-    Avisos(QIODevice& errores, DestinoErrores destino, Cronometro cronometro);
+    /// `programa` is the name that sentences bear; `errores` outlives the object.
+    Avisos(const QString& programa, QIODevice& errores, DestinoErrores destino, Cronometro cronometro);
     ~Avisos();
     Avisos(const Avisos&) = delete;
     Avisos& operator=(const Avisos&) = delete;
@@ -44,6 +43,7 @@ private:
     void escribeLinea();
     void borraLinea();
 
+    QString m_programa;
     QIODevice& m_errores;
     DestinoErrores m_destino;
     Cronometro m_cronometro;
@@ -54,4 +54,4 @@ private:
     bool m_escrita = false;
 };
 
-} // namespace kestrane::lote
+} // namespace kestrane

@@ -1,6 +1,6 @@
-#include "lote/latido.h"
+#include "platform/runtime/latido.h"
 
-namespace kestrane::lote {
+namespace kestrane {
 
 Latido::Latido(std::chrono::milliseconds cada, std::function<void()> haz)
     : m_cada{cada}
@@ -16,4 +16,4 @@ void Latido::late(const std::stop_token& parada)
         m_haz();
 }
 
-} // namespace kestrane::lote
+} // namespace kestrane

@@ -1,6 +1,6 @@
-#include "lote/avisos.h"
+#include "platform/runtime/avisos.h"
 
-namespace kestrane::lote {
+namespace kestrane {
 
 using namespace Qt::StringLiterals;
 
@@ -11,8 +11,9 @@ constexpr qint64 EntreLineas = 200;
 
 } // namespace
 
-Avisos::Avisos(QIODevice& errores, DestinoErrores destino, Cronometro cronometro)
-    : m_errores{errores}
+Avisos::Avisos(const QString& programa, QIODevice& errores, DestinoErrores destino, Cronometro cronometro)
+    : m_programa{programa}
+    , m_errores{errores}
     , m_destino{destino}
     , m_cronometro{std::move(cronometro)}
     , m_siguiente{m_cronometro() + PrimeraEspera}
@@ -28,7 +29,7 @@ void Avisos::di(const QString& frase)
 {
     const std::lock_guard cerrado{m_cerrojo};
     borraLinea();
-    m_errores.write("listados-lote: " + frase.toUtf8() + '\n');
+    m_errores.write(u"%1: %2\n"_s.arg(m_programa, frase).toUtf8());
 }
 
 void Avisos::empieza(const QString& trabajo)
@@ -90,4 +91,4 @@ void Avisos::borraLinea()
     m_escrita = false;
 }
 
-} // namespace kestrane::lote
+} // namespace kestrane

@@ -1,10 +1,10 @@
-#include "lote/avisos.h"
+#include "platform/runtime/avisos.h"
 
 #include <gtest/gtest.h>
 
 #include <QBuffer>
 
-namespace kestrane::lote {
+namespace kestrane {
 namespace {
 
 using namespace Qt::StringLiterals;
@@ -16,7 +16,7 @@ protected:
 
     Avisos avisos(DestinoErrores destino)
     {
-        return Avisos{m_errores, destino, [this] { return m_ahora; }};
+        return Avisos{u"listados-lote"_s, m_errores, destino, [this] { return m_ahora; }};
     }
 
     QBuffer m_errores;
@@ -127,4 +127,4 @@ TEST_F(AvisosTest, ResultsElsewhereLeaveIt)
 }
 
 } // namespace
-} // namespace kestrane::lote
+} // namespace kestrane
