@@ -9,7 +9,7 @@ inline constexpr auto TextoDeAyuda = uR"(Uso: listados-lote --lista
 
 Hace sin pantalla cualquier listado de Kestrane Listados. CONTROL es el nombre de su botón, por ejemplo cmd_Caja1.
 
-  --lista                      escribe todos los listados: su control, su título y si está disponible
+  --lista                      escribe todos los listados: su control, su grupo y título y si está disponible
 
 Opciones del listado, las mismas que ofrecen sus diálogos (las demás se ignoran y se dice):
   --desde AAAA-MM-DD           primer día; si no se indica, hoy

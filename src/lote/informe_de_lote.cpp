@@ -9,6 +9,7 @@
 #include "lote/pantalla_de_lote.h"
 #include "lote/tienda_elegida.h"
 #include "pipeline/catalogue/catalogo.h"
+#include "pipeline/catalogue/descripcion.h"
 #include "pipeline/catalogue/ejecutor.h"
 #include "platform/suite/preferencias_en_tabla.h"
 #include "run_context/principal.h"
@@ -128,7 +129,7 @@ QByteArray listaDeInformes()
     for (const FilaCatalogo& fila : catalogue::catalogo()) {
         if (fila.clase != Clase::Informe && fila.clase != Clase::Grafico)
             continue;
-        lista.append(fila.control.toUtf8()).append('\t').append(fila.leyenda.toUtf8());
+        lista.append(fila.control.toUtf8()).append('\t').append(catalogue::descripcion(fila).toUtf8());
         lista.append(fila.clase == Clase::Grafico ? "\tgrafico" : "\tinforme");
         lista.append(catalogue::estaDisponible(fila) ? "\n" : "\ttodavía no disponible\n");
     }

@@ -21,7 +21,7 @@ struct EntornoDeLote
 /// output that breaks off nothing is written then.
 [[nodiscard]] int ejecutaInforme(const Opciones& opciones, const database::OpcionesDatos& datos, const EntornoDeLote& entorno);
 
-/// One line for each report and chart: control, caption, "informe" or "grafico", and what is not available yet.
+/// One line for each report and chart: control, group and caption, "informe" or "grafico", and what is not available yet.
 [[nodiscard]] QByteArray listaDeInformes();
 
 } // namespace kestrane::lote
