@@ -1,5 +1,6 @@
 #include "instalacion/programa.h"
 #include "platform/runtime/salida_estandar.h"
+#include "platform/runtime/terminal.h"
 
 #include <QCoreApplication>
 
@@ -9,6 +10,6 @@ int main(int argc, char** argv)
     return kestrane::conSalidaEstandar(u"crear-tienda", [&](QIODevice& salida, QIODevice& errores) {
         const QCoreApplication aplicacion{argc, argv};
         return kestrane::instalacion::ejecutaPrograma(QCoreApplication::arguments(), QCoreApplication::applicationDirPath(), salida,
-                                                      errores);
+                                                      errores, kestrane::destinoErrores(stderr, stdout));
     });
 }

@@ -4,6 +4,7 @@
 #include "instalacion/obra.h"
 #include "instalacion/opciones.h"
 #include "platform/database/odbc/odbc_motor.h"
+#include "platform/runtime/avisos_vivos.h"
 #include "platform/runtime/error_de_salida.h"
 #include "platform/runtime/error_ejecucion.h"
 
@@ -41,11 +42,6 @@ public:
 private:
     std::vector<std::unique_ptr<Obra>> m_obras;
 };
-
-void di(QIODevice& errores, const QString& frase)
-{
-    errores.write("crear-tienda: " + frase.toUtf8() + '\n');
-}
 
 std::unique_ptr<Obra> enCarpeta(const BaseEsquema& base, const Opciones& opciones)
 {
@@ -99,19 +95,22 @@ void construyeVacias(const Obras& obras)
 }
 
 /// The generator's rows go to both while both are being built.
-void construyeDemostracion(Obra& tienda, Obra& listados, const demo::Parametros& parametros)
+void construyeDemostracion(Obra& tienda, Obra& listados, const demo::Parametros& parametros, Avisos& avisos)
 {
     tienda.construye([&](Carga& deTienda) {
         listados.construye([&](Carga& deListados) {
             Reparto reparto{deTienda, deListados};
-            demo::generaTienda(parametros, reparto);
+            avisos.empieza(u"Generando los días de la tienda"_s);
+            demo::generaTienda(parametros, reparto, [&] { avisos.avanza(); });
+            avisos.empieza(u"Creando los índices"_s);
         });
     });
 }
 
 /// Both are built before one is put in its place, and both stand there before one is confirmed.
-void crea(const Opciones& opciones, QIODevice& salida)
+void crea(const Opciones& opciones, QIODevice& salida, Avisos& avisos)
 {
+    avisos.empieza(u"Creando las bases de datos"_s);
     exigeCarpetaUtil(opciones);
     Obras obras;
     anadeObras(opciones, obras);
@@ -120,43 +119,52 @@ void crea(const Opciones& opciones, QIODevice& salida)
     if (vacias)
         construyeVacias(obras);
     else
-        construyeDemostracion(obras.tienda(), obras.listados(), opciones.demo);
+        construyeDemostracion(obras.tienda(), obras.listados(), opciones.demo, avisos);
+    avisos.empieza(u"Poniendo en su sitio las bases de datos"_s);
     obras.listados().termina(); // a file can be taken back when the shop's server refuses, not the other way round
     obras.tienda().termina();
     for (const auto& obra : obras)
         obra->confirma();
     const QString frase = vacias ? u"Creada, vacía, la base de datos \"%1\"."_s : u"Creada la base de datos \"%1\"."_s;
+    avisos.empiezanLosResultados();
     for (const auto& obra : obras)
         escribeTodo(salida, frase.arg(obra->nombre()).toUtf8() + '\n');
 }
 
-int cumple(const Opciones& opciones, QIODevice& salida)
+int cumple(const Opciones& opciones, QIODevice& salida, Avisos& avisos)
 {
     if (opciones.trabajo == Opciones::Trabajo::Ayuda) {
         escribeTodo(salida, textoDeAyuda().toUtf8());
         return SalidaBien;
     }
-    crea(opciones, salida);
+    crea(opciones, salida, avisos);
     return SalidaBien;
 }
 
 } // namespace
 
-int ejecutaPrograma(const QStringList& argumentos, const QString& carpetaPrograma, QIODevice& salida, QIODevice& errores)
+int ejecutaPrograma(const QStringList& argumentos, const QString& carpetaPrograma, QIODevice& salida, Avisos& avisos)
 {
     const auto opciones = leeOpciones(argumentos, carpetaPrograma, QSysInfo::machineHostName());
     if (!opciones) {
-        di(errores, opciones.error() + u" Con --ayuda se ven las opciones."_s);
+        avisos.di(opciones.error() + u" Con --ayuda se ven las opciones."_s);
         return SalidaUso;
     }
     try {
-        return cumple(opciones.valor(), salida);
+        return cumple(opciones.valor(), salida, avisos);
     } catch (const ErrorEjecucion& error) {
-        di(errores, u"error %1: %2"_s.arg(error.numero()).arg(error.descripcion()));
+        avisos.di(u"error %1: %2"_s.arg(error.numero()).arg(error.descripcion()));
     } catch (const ErrorDeSalida& error) {
-        di(errores, u"no se puede escribir en la salida estándar (%1)."_s.arg(error.motivo()));
+        avisos.di(u"no se puede escribir en la salida estándar (%1)."_s.arg(error.motivo()));
     }
     return SalidaError;
+}
+
+int ejecutaPrograma(const QStringList& argumentos, const QString& carpetaPrograma, QIODevice& salida, QIODevice& errores,
+                    DestinoErrores destino)
+{
+    AvisosVivos vivos{u"crear-tienda"_s, errores, destino};
+    return ejecutaPrograma(argumentos, carpetaPrograma, salida, vivos.avisos());
 }
 
 } // namespace kestrane::instalacion

@@ -163,5 +163,41 @@ TEST_F(Programa, ADataSourceThatIsNotDefinedIsAnError)
     expectError("El origen de datos ODBC \"NoExiste\" no exist");
 }
 
+/// A run on whose clock a second passes with each look.
+class ProgramaLento : public Programa
+{
+protected:
+    ProgramaLento() { m_terminal.open(QIODevice::WriteOnly); }
+
+    int correDespacio(DestinoErrores destino, const QStringList& argumentos)
+    {
+        QBuffer salida;
+        salida.open(QIODevice::WriteOnly);
+        Avisos avisos{u"crear-tienda"_s, m_terminal, destino, [this] { return m_ahora += 1000; }};
+        return ejecutaPrograma(QStringList{u"crear-tienda"_s, u"--datos"_s, ruta(u"datos"_s)} + argumentos, {}, salida, avisos);
+    }
+    [[nodiscard]] std::string dicho() const { return m_terminal.data().toStdString(); }
+
+private:
+    QBuffer m_terminal;
+    qint64 m_ahora = 0;
+};
+
+TEST_F(ProgramaLento, OnATerminalTheDaysOfADemoShopAreCountedOnALineThatVanishes)
+{
+    EXPECT_EQ(correDespacio(DestinoErrores::Terminal, {u"--tamano"_s, u"mes"_s}), SalidaBien);
+    const std::string comienzo = "Generando los días de la tienda: 1\r\x1b[KGenerando los días de la tienda: 2\r\x1b[K";
+    EXPECT_EQ(dicho().substr(0, comienzo.size()), comienzo);
+    EXPECT_NE(dicho().find("Generando los días de la tienda: 31\r"), std::string::npos) << "a month has as many at least";
+    EXPECT_TRUE(dicho().ends_with("\r\x1b[K")) << dicho();
+    EXPECT_EQ(dicho().find('\n'), std::string::npos);
+}
+
+TEST_F(ProgramaLento, InAFileThereIsNothing)
+{
+    EXPECT_EQ(correDespacio(DestinoErrores::Fichero, {u"--tamano"_s, u"dia"_s}), SalidaBien);
+    EXPECT_EQ(dicho(), "");
+}
+
 } // namespace
 } // namespace kestrane::instalacion

@@ -62,13 +62,15 @@ public:
     {
     }
 
-    void transcurre()
+    void transcurre(const std::function<void()>& trasCadaDia)
     {
         for (const DiaNegocio& dia : m_negocio.calendario.dias()) {
             for (Tienda& tienda : m_negocio.tiendas) {
                 if (m_negocio.calendario.abre(dia.fecha, tienda.numero))
                     jornada(tienda, dia);
             }
+            if (trasCadaDia)
+                trasCadaDia();
         }
     }
 
@@ -192,7 +194,7 @@ private:
 
 } // namespace
 
-void generaTienda(const Parametros& parametros, Destino& destino)
+void generaTienda(const Parametros& parametros, Destino& destino, const std::function<void()>& trasCadaDia)
 {
     const Sabor& datos = sabor(parametros.tipo);
     const Azar azar = Azar{parametros.semilla}.rama(static_cast<quint64>(parametros.tipo));
@@ -205,7 +207,7 @@ void generaTienda(const Parametros& parametros, Destino& destino)
                     plantilla,  clientela, destino,    abreTiendas(datos, tiendas, azar.rama(DeTiendas)),
                     {}};
     Vida vida{negocio, azar};
-    vida.transcurre();
+    vida.transcurre(trasCadaDia);
     vida.cierra();
     std::vector<QString> nombres;
     std::ranges::transform(negocio.tiendas, std::back_inserter(nombres), &Tienda::nombre);
