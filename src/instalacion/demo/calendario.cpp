@@ -69,7 +69,7 @@ Fecha domingoDePascua(int anio)
     const int l = (32 + 2 * (b % 4) + 2 * (c / 4) - h - c % 4) % 7;
     const int m = (a + 11 * h + 22 * l) / 451;
     const int suma = h + l - 7 * m + 114;
-    return *Fecha::deCalendario(anio, suma / 31, suma % 31 + 1);
+    return Fecha::deCalendario(anio, suma / 31, suma % 31 + 1).value_or(Fecha{}); // a day that every year has
 }
 
 Calendario::Calendario(const Parametros& parametros, const Sabor& datos)

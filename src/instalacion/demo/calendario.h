@@ -29,7 +29,7 @@ struct DiaNegocio
 class Calendario
 {
 public:
-    Calendario(const Parametros& parametros, const Sabor& sabor);
+    Calendario(const Parametros& parametros, const Sabor& datos);
 
     /// The days to tell, ascending; the last is today. Days on which every store is closed are in it too.
     [[nodiscard]] const std::vector<DiaNegocio>& dias() const { return m_dias; }

@@ -129,7 +129,8 @@ void Catalogo::cargaArticulos(Azar& azar)
         articulo.nombre = datos.nombre.toString();
         articulo.precio = Dinero::euros(datos.precio);
         articulo.coste = Dinero::euros(datos.coste);
-        articulo.minimo = azar.entre(2, 8) + datos.peso / 4;
+        const int masPorVenderse = datos.peso / 4;
+        articulo.minimo = azar.entre(2, 8) + masPorVenderse;
         articulo.stock = articulo.minimo + azar.entre(5, 40);
         articulo.consumoInterno = datos.clase == ClaseProducto::Venta ? 0 : azar.entre(2, 15);
         cargaVariantes(articulo, azar);
@@ -137,11 +138,13 @@ void Catalogo::cargaArticulos(Azar& azar)
     }
     for (int mes = 1; mes <= 12; ++mes) {
         std::vector<int> pesos;
+        pesos.reserve(m_articulos.size());
         for (const Articulo& articulo : m_articulos)
             pesos.push_back(articulo.seVende() ? articulo.datos->peso * decimos(articulo.datos->temporada, mes) : 0);
         m_ruletaArticulos[static_cast<std::size_t>(mes - 1)] = Ruleta{pesos};
     }
     std::vector<int> deReyes;
+    deReyes.reserve(m_articulos.size());
     for (const Articulo& articulo : m_articulos)
         deReyes.push_back((articulo.seVende() ? articulo.datos->peso * decimos(articulo.datos->temporada, 1) : 0) *
                           (articulo.datos->temporada == Temporada::Navidad ? MasEnReyes : 1));
@@ -150,13 +153,13 @@ void Catalogo::cargaArticulos(Azar& azar)
 
 void Catalogo::cargaVariantes(Articulo& articulo, Azar& azar) const
 {
-    const auto [primera, ultima] = intervalo(articulo.datos->tallaje);
-    if (primera > ultima)
+    const Intervalo suyas = intervalo(articulo.datos->tallaje);
+    if (suyas.primera > suyas.ultima)
         return;
     const int primerColor = azar.hasta(static_cast<int>(std::size(colores)));
     const int cuantos = azar.entre(2, 3);
     articulo.stock = 0;
-    for (int talla = primera; talla <= ultima; ++talla) {
+    for (int talla = suyas.primera; talla <= suyas.ultima; ++talla) {
         for (int i = 0; i < cuantos; ++i) {
             Variante variante;
             variante.codigo = QString::number(articulo.variantes.size() + 1);

@@ -62,7 +62,7 @@ struct Pack
 class Catalogo
 {
 public:
-    Catalogo(const Sabor& sabor, Azar azar);
+    Catalogo(const Sabor& datos, Azar azar);
 
     [[nodiscard]] const Sabor& sabor() const { return m_sabor; }
     [[nodiscard]] std::vector<Articulo>& articulos() { return m_articulos; }

@@ -106,22 +106,30 @@ void Clientela::programa(const Cliente& cliente, Fecha desde)
 
 std::vector<Cliente*> Clientela::visitantes(int tienda, const DiaNegocio& dia, int maximo)
 {
+    const bool entero = dia.detalle == Detalle::Entero;
     std::vector<Cliente*> llegan;
-    if (dia.detalle == Detalle::Entero) {
-        auto& esperados = m_esperados[static_cast<std::size_t>(tienda)][static_cast<std::size_t>(m_calendario.indice(dia.fecha))];
-        for (const int codigo : esperados) {
-            Cliente& suyo = cliente(codigo);
-            const bool cabe = static_cast<int>(llegan.size()) < maximo && suyo.ultimaVisita != dia.fecha;
-            const int espera = cabe ? suyo.intervalo * m_azar.entre(70, 135) / 100 : m_azar.entre(1, 9);
-            programa(suyo, dia.fecha.masDias(std::max(1, espera)));
-            if (cabe) {
-                suyo.ultimaVisita = dia.fecha;
-                llegan.push_back(&suyo);
-            }
+    if (entero)
+        llegan = atiendeEsperados(tienda, dia.fecha, maximo);
+    completa(llegan, tienda, dia.fecha, (maximo * (entero ? 8 : 10) + 9) / 10);
+    return llegan;
+}
+
+/// Those of whom it is the turn and who find a place; all get their next turn.
+std::vector<Cliente*> Clientela::atiendeEsperados(int tienda, Fecha fecha, int maximo)
+{
+    std::vector<Cliente*> llegan;
+    auto& esperados = m_esperados[static_cast<std::size_t>(tienda)][static_cast<std::size_t>(m_calendario.indice(fecha))];
+    for (const int codigo : esperados) {
+        Cliente& suyo = cliente(codigo);
+        const bool cabe = static_cast<int>(llegan.size()) < maximo && suyo.ultimaVisita != fecha;
+        const int espera = cabe ? suyo.intervalo * m_azar.entre(70, 135) / 100 : m_azar.entre(1, 9);
+        programa(suyo, fecha.masDias(std::max(1, espera)));
+        if (cabe) {
+            suyo.ultimaVisita = fecha;
+            llegan.push_back(&suyo);
         }
-        esperados = {};
     }
-    completa(llegan, tienda, dia.fecha, (maximo * (dia.detalle == Detalle::Entero ? 8 : 10) + 9) / 10);
+    esperados = {};
     return llegan;
 }
 

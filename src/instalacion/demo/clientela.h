@@ -62,7 +62,8 @@ private:
     void alta(int tienda, Azar& azar);
     [[nodiscard]] int habito(Publico publico, Azar& azar) const;
     void programa(const Cliente& cliente, Fecha desde);
-    void completa(std::vector<Cliente*>& visitantes, int tienda, Fecha fecha, int maximo);
+    [[nodiscard]] std::vector<Cliente*> atiendeEsperados(int tienda, Fecha fecha, int maximo);
+    void completa(std::vector<Cliente*>& llegan, int tienda, Fecha fecha, int maximo);
 
     const Catalogo& m_catalogo;
     const Calendario& m_calendario;

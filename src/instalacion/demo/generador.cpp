@@ -6,6 +6,7 @@
 #include "instalacion/demo/nombres.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace kestrane::demo {
 
@@ -58,7 +59,7 @@ public:
         , m_almacen{negocio, azar.rama(DeAlmacen)}
         , m_agenda{negocio, azar.rama(DeAgenda)}
         , m_caja{negocio, azar.rama(DeCaja)}
-        , m_mostrador{negocio, m_bonos, m_deudas, m_devoluciones, m_vales, m_almacen, m_agenda, azar.rama(DeMostrador)}
+        , m_mostrador{negocio, {m_bonos, m_deudas, m_devoluciones, m_vales, m_almacen, m_agenda}, azar.rama(DeMostrador)}
     {
     }
 
@@ -94,7 +95,7 @@ private:
                             static_cast<int>(media * m_negocio.calendario.actividad(dia.fecha) * ParteDeMuestra + m_azar.real()));
         const double suerte = 0.8 + 0.2 * (m_azar.real() + m_azar.real());
         const double parte = m_negocio.parametros.proporcion;
-        return std::max(4, static_cast<int>(media * m_negocio.calendario.actividad(dia.fecha) * suerte * parte + 0.5));
+        return std::max(4, static_cast<int>(std::lround(media * m_negocio.calendario.actividad(dia.fecha) * suerte * parte)));
     }
 
     /// Who comes to each ticket; null for people unknown.

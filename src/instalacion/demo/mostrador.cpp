@@ -10,15 +10,9 @@ constexpr int RebajadosDe100 = 40; // sales with something reduced, in the sales
 
 } // namespace
 
-Mostrador::Mostrador(Negocio& negocio, Bonos& bonos, Deudas& deudas, Devoluciones& devoluciones, Vales& vales, Almacen& almacen,
-                     Agenda& agenda, Azar azar)
+Mostrador::Mostrador(Negocio& negocio, const Libros& libros, Azar azar)
     : m_negocio{negocio}
-    , m_bonos{bonos}
-    , m_deudas{deudas}
-    , m_devoluciones{devoluciones}
-    , m_vales{vales}
-    , m_almacen{almacen}
-    , m_agenda{agenda}
+    , m_libros{libros}
     , m_azar{azar}
     , m_lineas{{negocio.sabor.ritmo.lineas.begin(), negocio.sabor.ritmo.lineas.end()}}
 {
@@ -73,7 +67,7 @@ bool Mostrador::vieneAGastar(const Turno& turno, const Cliente* cliente)
 {
     if (cliente == nullptr || !turno.esHoy)
         return false;
-    return cliente->deposito > Dinero{} || m_bonos.tiene(cliente->codigo, turno.dia.fecha);
+    return cliente->deposito > Dinero{} || m_libros.bonos.tiene(cliente->codigo, turno.dia.fecha);
 }
 
 void Mostrador::compone(const Turno& turno, Carrito& carrito, Cliente* cliente)

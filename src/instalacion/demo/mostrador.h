@@ -33,12 +33,22 @@ enum class CasoAnulado {
 /// What is in a note, or in a parked ticket.
 enum class CasoNota { Corriente, Compartida, Aparcada, PackAntiguo, DelDeposito, Pack, Bono, ConsumoDeBono, Cuantos };
 
+/// The books in which a ticket is followed up.
+struct Libros
+{
+    Bonos& bonos;
+    Deudas& deudas;
+    Devoluciones& devoluciones;
+    Vales& vales;
+    Almacen& almacen;
+    Agenda& agenda;
+};
+
 /// Where tickets are made: what the client takes, how it is paid, and what follows from it in the other books.
 class Mostrador
 {
 public:
-    Mostrador(Negocio& negocio, Bonos& bonos, Deudas& deudas, Devoluciones& devoluciones, Vales& vales, Almacen& almacen,
-              Agenda& agenda, Azar azar);
+    Mostrador(Negocio& negocio, const Libros& libros, Azar azar);
 
     /// One ticket; `cliente` may be null. Returns the cash that it left in the drawer.
     Dinero atiende(const Turno& turno, int segundos, Cliente* cliente);
@@ -82,12 +92,7 @@ private:
     void observaCliente(const Turno& turno, const Cliente& cliente, int empleado);
 
     Negocio& m_negocio;
-    Bonos& m_bonos;
-    Deudas& m_deudas;
-    Devoluciones& m_devoluciones;
-    Vales& m_vales;
-    Almacen& m_almacen;
-    Agenda& m_agenda;
+    Libros m_libros;
     Azar m_azar;
     Fisco m_fisco;
     Ruleta m_lineas;

@@ -61,7 +61,7 @@ bool Mostrador::anula(const Turno& turno, Venta& venta, Cliente* cliente)
     if (caso == CasoAnulado::DelDeposito)
         pagaCon(Deposito, venta); // and the money is given back
     if (caso == CasoAnulado::Debida)
-        m_deudas.apuntaAnulada(venta);
+        m_libros.deudas.apuntaAnulada(venta);
     const Fecha cuando = std::min(venta.fecha.masDias(m_azar.porCien(25) ? m_azar.entre(1, 3) : 0), m_negocio.calendario.hoy());
     escribeAnulada(m_negocio.destino, venta, anulacion, cuando);
     return true;
@@ -137,14 +137,14 @@ void Mostrador::bonoAnulado(Carrito& carrito, CasoAnulado caso)
         const int sesiones = catalogo.servicios()[static_cast<std::size_t>(posicion)].datos->sesionesBono;
         carrito.servicio(posicion, caso == CasoAnulado::Bono ? TipoLinea::B : TipoLinea::CB, sesiones);
         if (caso == CasoAnulado::Bono)
-            m_bonos.vendeAnulado(carrito.venta(), posicion, -1, sesiones);
+            m_libros.bonos.vendeAnulado(carrito.venta(), posicion, -1, sesiones);
         return;
     }
     const int posicion = m_azar.elige(catalogo.packsConBono());
     carrito.pack(posicion, caso == CasoAnulado::BonoDePack ? TipoLinea::BF : TipoLinea::CBF);
     if (caso == CasoAnulado::BonoDePack)
-        m_bonos.vendeAnulado(carrito.venta(), -1, posicion,
-                             catalogo.packs()[static_cast<std::size_t>(posicion)].datos->sesionesBono);
+        m_libros.bonos.vendeAnulado(carrito.venta(), -1, posicion,
+                                    catalogo.packs()[static_cast<std::size_t>(posicion)].datos->sesionesBono);
 }
 
 } // namespace kestrane::demo

@@ -33,7 +33,7 @@ bool seArregla(const Articulo& articulo, QStringView arreglo)
     if (articulo.variantes.empty())
         return false;
     const auto es = [arreglo](const Prenda& una) { return arreglo.contains(una.arreglo); };
-    const auto suya = std::ranges::find_if(prendas, es);
+    const auto* const suya = std::ranges::find_if(prendas, es);
     const auto nombra = [&](QStringView palabra) { return !palabra.isEmpty() && articulo.nombre.contains(palabra); };
     return suya == std::end(prendas) || std::ranges::any_of(suya->articulos, nombra);
 }

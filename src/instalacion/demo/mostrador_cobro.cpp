@@ -116,18 +116,18 @@ void Mostrador::asienta(const Turno& turno, Venta& venta, Cliente* cliente)
         venta.albaran = m_negocio.numeros.albaran++; // of goods that had gone out with a note
     fechaFactura(venta, cliente);
     escribeVenta(m_negocio.destino, venta);
-    m_almacen.vende(venta);
-    m_agenda.atendida(venta);
+    m_libros.almacen.vende(venta);
+    m_libros.agenda.atendida(venta);
     if (debe(turno, venta, cliente)) {
-        const Dinero abierto = m_deudas.apunta(venta);
+        const Dinero abierto = m_libros.deudas.apunta(venta);
         venta.efectivo -= std::min(venta.efectivo, abierto); // it did not reach the drawer
         return;
     }
     const bool conVale = !venta.tienda.isNull() && venta.total() > MinimoDividido &&
                          (cliente != nullptr || sucesos.toca(Suceso::GastoDeVale, m_azar));
-    if (conVale && esComercio(m_negocio.sabor) && !m_vales.gasta(venta) && turno.esHoy && cliente == nullptr)
+    if (conVale && esComercio(m_negocio.sabor) && !m_libros.vales.gasta(venta) && turno.esHoy && cliente == nullptr)
         sucesos.aplaza(Suceso::GastoDeVale);
-    m_devoluciones.apunta(venta);
+    m_libros.devoluciones.apunta(venta);
     if (cliente != nullptr && sucesos.toca(Suceso::Observacion, m_azar))
         observaCliente(turno, *cliente, venta.empleado);
 }

@@ -46,15 +46,15 @@ void Mostrador::encarga(Carrito& carrito)
 /// A session of a bono or of a spa pack, with something more now and then.
 bool Mostrador::consume(Carrito& carrito, const Cliente& cliente)
 {
-    Venta& venta = carrito.venta();
-    if (const auto servicio = m_bonos.consumeSpa(cliente.codigo, venta.fecha)) {
+    const Venta& venta = carrito.venta();
+    if (const auto servicio = m_libros.bonos.consumeSpa(cliente.codigo, venta.fecha)) {
         carrito.servicio(*servicio, TipoLinea::CPSPA);
-    } else if (Bonos::Bono* bono = m_bonos.vigente(cliente.codigo, venta.fecha)) {
+    } else if (Bonos::Bono* bono = m_libros.bonos.vigente(cliente.codigo, venta.fecha)) {
         if (bono->servicio >= 0)
             carrito.servicio(bono->servicio, TipoLinea::CB);
         else
             carrito.pack(bono->pack, TipoLinea::CBF);
-        m_bonos.consume(m_negocio.destino, *bono, venta);
+        m_libros.bonos.consume(m_negocio.destino, *bono, venta);
     } else {
         return false;
     }
@@ -66,7 +66,7 @@ bool Mostrador::consume(Carrito& carrito, const Cliente& cliente)
 bool Mostrador::vendeBono(const Turno& turno, Carrito& carrito, const Cliente& cliente)
 {
     const Venta& venta = carrito.venta();
-    if (m_bonos.vigente(cliente.codigo, venta.fecha.masDias(1)) != nullptr)
+    if (m_libros.bonos.vigente(cliente.codigo, venta.fecha.masDias(1)) != nullptr)
         return false;
     Sucesos& sucesos = turno.tienda.sucesos;
     const Publico publico = cliente.publico();
@@ -76,7 +76,7 @@ bool Mostrador::vendeBono(const Turno& turno, Carrito& carrito, const Cliente& c
         const int posicion = m_azar.elige(conBono);
         const int sesiones = m_negocio.catalogo.servicios()[static_cast<std::size_t>(posicion)].datos->sesionesBono;
         carrito.servicio(posicion, TipoLinea::B, sesiones);
-        m_bonos.vende(venta, posicion, -1, sesiones);
+        m_libros.bonos.vende(venta, posicion, -1, sesiones);
         return true;
     }
     const std::vector<int> packs = aptos(m_negocio.catalogo.packsConBono(), [&](int cual) {
@@ -86,7 +86,7 @@ bool Mostrador::vendeBono(const Turno& turno, Carrito& carrito, const Cliente& c
         return false;
     const int posicion = m_azar.elige(packs);
     carrito.pack(posicion, TipoLinea::BF);
-    m_bonos.vende(venta, -1, posicion, m_negocio.catalogo.packs()[static_cast<std::size_t>(posicion)].datos->sesionesBono);
+    m_libros.bonos.vende(venta, -1, posicion, m_negocio.catalogo.packs()[static_cast<std::size_t>(posicion)].datos->sesionesBono);
     return true;
 }
 
@@ -109,7 +109,7 @@ bool Mostrador::vendePack(const Turno& turno, Carrito& carrito, const Cliente& c
     if (!deSpa.empty() && sucesos.toca(Suceso::VentaPackSpa, m_azar)) {
         const int posicion = m_azar.elige(deSpa);
         carrito.packSpa(posicion);
-        m_bonos.vendeSpa(carrito.venta(), spa[static_cast<std::size_t>(posicion)]);
+        m_libros.bonos.vendeSpa(carrito.venta(), spa[static_cast<std::size_t>(posicion)]);
         return true;
     }
     const std::vector<int> packs = paraEl(m_negocio.catalogo.packs(), cliente);

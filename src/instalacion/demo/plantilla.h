@@ -40,7 +40,7 @@ using Turnantes = std::vector<const Empleado*>;
 class Plantilla
 {
 public:
-    Plantilla(const Sabor& sabor, int tiendas, Fecha hoy, Azar azar);
+    Plantilla(const Sabor& datos, int tiendas, Fecha hoy, Azar azar);
 
     /// At least one.
     [[nodiscard]] Turnantes deTurno(int tienda, Fecha fecha) const;

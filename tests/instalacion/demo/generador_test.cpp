@@ -112,6 +112,22 @@ TEST(SemillaDeLaDemo, EachParameterMakesAnotherShop)
     EXPECT_EQ(digestos.size(), 5U);
 }
 
+/// Takes rows and forgets them.
+class Nada : public Destino
+{
+public:
+    void fila(const TablaDemo&, std::span<const Valor>) override {}
+};
+
+TEST(DiasDeLaDemo, EachDayOfTheCalendarIsToldOnceAlsoThoseOnWhichTheShopIsClosed)
+{
+    const Parametros parametros{.tipo = TipoTienda::Spa, .tamano = Tamano::Mes};
+    Nada nada;
+    std::size_t dias = 0;
+    generaTienda(parametros, nada, [&] { ++dias; });
+    EXPECT_EQ(dias, (Calendario{parametros, sabor(parametros.tipo)}.dias().size()));
+}
+
 TEST_P(JornadaDeLaDemo, NumbersOfAStoreFollowOneAnotherWhenTheAnnulledAreCounted)
 {
     std::map<int, std::set<int>> numeros;
