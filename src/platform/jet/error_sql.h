@@ -5,7 +5,7 @@
 namespace kestrane::jet {
 
 /// Why a text is not a statement that can run: a Spanish sentence and the place in the text.
-struct ErrorSql
+struct ErrorSql // NOLINT(clang-analyzer-core.uninitialized.Assign): out of a Resultado, whose std::variant it loses sight of
 {
     enum class Clase {
         TextoVacio,
