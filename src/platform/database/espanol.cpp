@@ -213,14 +213,6 @@ int comparaTextos(Vista a, Vista b, const Unidad* enA, const Unidad* enB)
     return comparaDespacio(Puntos{a}, Puntos{b});
 }
 
-char16_t plegadaUnidad(QChar c)
-{
-    const char16_t unidad = c.unicode();
-    if (unidad < 128)
-        return unidad >= u'A' && unidad <= u'Z' ? static_cast<char16_t>(unidad + 32) : unidad;
-    return c.toCaseFolded().unicode();
-}
-
 } // namespace
 
 int compara(std::string_view a, std::string_view b)
@@ -231,32 +223,6 @@ int compara(std::string_view a, std::string_view b)
 int compara(QStringView a, QStringView b)
 {
     return comparaTextos<Utf16>(a, b, a.utf16(), b.utf16());
-}
-
-char32_t plegado(char32_t c)
-{
-    if (c < 128)
-        return c >= U'A' && c <= U'Z' ? c + 32 : c;
-    return QChar::toCaseFolded(c);
-}
-
-QString plegado(QStringView texto)
-{
-    return texto.toString().toCaseFolded();
-}
-
-size_t hashDeNombre(QStringView nombre)
-{
-    auto hash = static_cast<size_t>(nombre.size());
-    for (const QChar c : nombre)
-        hash = hash * 31 + plegadaUnidad(c);
-    return hash;
-}
-
-bool mismoNombre(QStringView a, QStringView b)
-{
-    return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(),
-                                              [](QChar x, QChar y) { return x == y || plegadaUnidad(x) == plegadaUnidad(y); });
 }
 
 } // namespace kestrane::database::espanol

@@ -23,13 +23,4 @@ namespace kestrane::database::espanol {
     return compara(a, b) == 0;
 }
 
-/// One code point without its case.
-[[nodiscard]] char32_t plegado(char32_t c);
-/// A name without its case, as a key.
-[[nodiscard]] QString plegado(QStringView texto);
-/// Of names that are equal but for case, the same.
-[[nodiscard]] size_t hashDeNombre(QStringView nombre);
-/// True when two names are equal but for case.
-[[nodiscard]] bool mismoNombre(QStringView a, QStringView b);
-
 } // namespace kestrane::database::espanol

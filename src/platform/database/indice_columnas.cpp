@@ -1,6 +1,6 @@
 #include "platform/database/indice_columnas.h"
 
-#include "platform/database/espanol.h"
+#include "platform/jet/nombres.h"
 
 #include <bit>
 
@@ -20,7 +20,7 @@ IndiceColumnas::IndiceColumnas(const std::vector<jet::ColumnaResultado>& columna
 
 void IndiceColumnas::anade(int columna)
 {
-    const size_t hash = espanol::hashDeNombre((*m_columnas)[static_cast<size_t>(columna)].nombre);
+    const size_t hash = jet::hashDeNombre((*m_columnas)[static_cast<size_t>(columna)].nombre);
     size_t lugar = hash & (m_huecos.size() - 1);
     while (m_huecos[lugar].columna >= 0)
         lugar = (lugar + 1) & (m_huecos.size() - 1);
@@ -31,10 +31,10 @@ int IndiceColumnas::busca(QStringView nombre) const
 {
     if (m_huecos.empty())
         return -1;
-    const size_t hash = espanol::hashDeNombre(nombre);
+    const size_t hash = jet::hashDeNombre(nombre);
     for (size_t lugar = hash & (m_huecos.size() - 1); m_huecos[lugar].columna >= 0; lugar = (lugar + 1) & (m_huecos.size() - 1)) {
         const Hueco& hueco = m_huecos[lugar];
-        if (hueco.hash == hash && espanol::mismoNombre((*m_columnas)[static_cast<size_t>(hueco.columna)].nombre, nombre))
+        if (hueco.hash == hash && jet::mismoNombre((*m_columnas)[static_cast<size_t>(hueco.columna)].nombre, nombre))
             return hueco.columna;
     }
     return -1;

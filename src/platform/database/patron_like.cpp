@@ -1,7 +1,7 @@
 #include "platform/database/patron_like.h"
 
-#include "platform/database/espanol.h"
 #include "platform/database/utf8.h"
+#include "platform/jet/nombres.h"
 
 namespace kestrane::database {
 
@@ -22,7 +22,7 @@ bool igualDelante(const char*& a, const char* finA, const char*& b, const char* 
 {
     if (esAscii(*a) && esAscii(*b))
         return minuscula(*a++) == minuscula(*b++);
-    return espanol::plegado(siguienteUtf8(a, finA)) == espanol::plegado(siguienteUtf8(b, finB));
+    return jet::plegado(siguienteUtf8(a, finA)) == jet::plegado(siguienteUtf8(b, finB));
 }
 
 /// Compares one character from the back of both and moves before it.
@@ -30,7 +30,7 @@ bool igualDetras(const char*& a, const char* inicioA, const char*& b, const char
 {
     if (esAscii(a[-1]) && esAscii(b[-1]))
         return minuscula(*--a) == minuscula(*--b);
-    return espanol::plegado(anteriorUtf8(a, inicioA)) == espanol::plegado(anteriorUtf8(b, inicioB));
+    return jet::plegado(anteriorUtf8(a, inicioA)) == jet::plegado(anteriorUtf8(b, inicioB));
 }
 
 /// True when `texto` ends with `cola`; with `completo` only when it is all of it.

@@ -1,5 +1,6 @@
 #include "platform/jet/ambito.h"
 
+#include "platform/jet/nombres.h"
 #include "platform/jet/rechazo.h"
 
 #include <QStringList>
@@ -9,15 +10,6 @@
 using namespace Qt::StringLiterals;
 
 namespace kestrane::jet {
-
-namespace {
-
-bool mismoNombre(QStringView a, QStringView b)
-{
-    return a.size() == b.size() && a.compare(b, Qt::CaseInsensitive) == 0;
-}
-
-} // namespace
 
 int indiceDeColumna(const Tabla& tabla, QStringView nombre)
 {

@@ -1,4 +1,5 @@
 #include "platform/jet/binder_interno.h"
+#include "platform/jet/nombres.h"
 #include "platform/jet/rechazo.h"
 
 #include <algorithm>
@@ -207,7 +208,7 @@ Clave Binder::clave(const ast::ClaveDeOrden& leida, const Contexto& contexto, co
     clave.direccion = leida.direccion;
     const auto* nombre = std::get_if<ast::Columna>(&leida.expresion->dato);
     if (nombre && nombre->tabla.isEmpty() && !contexto.ambito->busca(*nombre, leida.expresion->lugar)) {
-        const auto conNombre = [&](const Salida& s) { return s.nombre.compare(nombre->nombre, Qt::CaseInsensitive) == 0; };
+        const auto conNombre = [&](const Salida& s) { return mismoNombre(s.nombre, nombre->nombre); };
         const auto donde = std::ranges::find_if(destino.lista, conNombre);
         if (donde != destino.lista.end()) {
             clave.salida = static_cast<int>(donde - destino.lista.begin()) + 1;

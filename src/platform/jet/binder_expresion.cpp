@@ -1,4 +1,5 @@
 #include "platform/jet/binder_interno.h"
+#include "platform/jet/nombres.h"
 #include "platform/jet/rechazo.h"
 
 using namespace Qt::StringLiterals;
@@ -122,7 +123,7 @@ ExpresionPtr Binder::enlazaDato(const ast::Columna& dato, ast::Lugar lugar, cons
     if (contexto.aliases && dato.tabla.isEmpty() && !contexto.ambito->busca(dato, lugar)) {
         for (const ast::ElementoLista& elemento : contexto.aliases->lista) {
             const auto* conAlias = std::get_if<ast::ElementoExpresion>(&elemento.dato);
-            if (!conAlias || conAlias->alias.compare(dato.nombre, Qt::CaseInsensitive) != 0)
+            if (!conAlias || !mismoNombre(conAlias->alias, dato.nombre))
                 continue;
             Contexto sinAliases = contexto;
             sinAliases.aliases = nullptr;

@@ -100,15 +100,5 @@ TEST(Espanol, BytesThatAreNoUtf8CompareAndDiffer)
     EXPECT_NE(compara(std::string_view{"a\xFF"}, std::string_view{"a\xFE"}), 0);
 }
 
-TEST(Espanol, NamesAreTheSameButForCase)
-{
-    EXPECT_TRUE(mismoNombre(u"UltimaVisita", u"ultimavisita"));
-    EXPECT_TRUE(mismoNombre(u"AÑO", u"año"));
-    EXPECT_FALSE(mismoNombre(u"ano", u"año"));
-    EXPECT_FALSE(mismoNombre(u"texto1", u"texto10"));
-    EXPECT_EQ(hashDeNombre(u"TEXTO35"), hashDeNombre(u"texto35"));
-    EXPECT_EQ(hashDeNombre(u"AÑO"), hashDeNombre(u"año"));
-}
-
 } // namespace
 } // namespace kestrane::database::espanol

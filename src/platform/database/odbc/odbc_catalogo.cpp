@@ -1,6 +1,7 @@
 #include "platform/database/odbc/odbc_catalogo.h"
 
 #include "platform/database/odbc/odbc_sentencia.h"
+#include "platform/jet/nombres.h"
 
 #include <array>
 
@@ -117,7 +118,7 @@ void ponEnOrden(std::vector<QString>& clave, int lugar, const QString& columna)
 void anade(jet::Tabla& tabla, const AlmacenFilas& fila, jet::Motor motor)
 {
     const QString columna = fila.valor(Columna).texto();
-    if (columna.compare(ColumnaDeOrden, Qt::CaseInsensitive) == 0) {
+    if (jet::mismoNombre(columna, ColumnaDeOrden)) {
         tabla.identidad = columna;
         return;
     }
@@ -161,7 +162,7 @@ TipoServidor tipoDeServidor(jet::Motor motor, QStringView tipo, int ancho)
 
 const jet::Tabla* OdbcCatalogo::tabla(QStringView nombre)
 {
-    const QString clave = nombre.toString().toLower();
+    const QString clave = jet::nombrePlegado(nombre);
     const auto conocida = m_tablas.constFind(clave);
     if (conocida != m_tablas.constEnd())
         return conocida->get();

@@ -22,7 +22,7 @@ public:
 
 private:
     std::shared_ptr<OdbcConexion> m_conexion;
-    QHash<QString, std::shared_ptr<jet::Tabla>> m_tablas; ///< by the name in lower case
+    QHash<QString, std::shared_ptr<jet::Tabla>> m_tablas; ///< by the name without its case
 };
 
 /// What a column's type on the server is here; unknown ones are read as texts.

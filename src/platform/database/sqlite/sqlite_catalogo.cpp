@@ -1,6 +1,7 @@
 #include "platform/database/sqlite/sqlite_catalogo.h"
 
 #include "platform/database/sqlite/sqlite_motor.h"
+#include "platform/jet/nombres.h"
 
 #include <QRegularExpression>
 
@@ -68,7 +69,7 @@ const QString NombresDeFila[] = {u"rowid"_s, u"_rowid_"_s, u"oid"_s};
 QString numeroDeFila(const jet::Tabla& tabla)
 {
     for (const QString& nombre : NombresDeFila) {
-        const auto lleva = [&](const jet::Columna& columna) { return columna.nombre.compare(nombre, Qt::CaseInsensitive) == 0; };
+        const auto lleva = [&](const jet::Columna& columna) { return jet::mismoNombre(columna.nombre, nombre); };
         if (std::none_of(tabla.columnas.begin(), tabla.columnas.end(), lleva))
             return nombre;
     }
@@ -91,21 +92,21 @@ TipoDeclarado tipoDeclarado(QStringView declaracion)
 
 const jet::Tabla* SqliteCatalogo::tabla(QStringView nombre)
 {
-    const QString plegado = nombre.toString().toCaseFolded();
+    const QString plegado = jet::nombrePlegado(nombre);
     if (const auto leida = m_tablas.constFind(plegado); leida != m_tablas.constEnd())
         return leida->get();
-    const QString propio = nombrePropio(plegado);
+    const QString propio = nombrePropio(nombre);
     if (propio.isEmpty())
         return nullptr;
     return m_tablas.insert(plegado, lee(definicion(propio)))->get();
 }
 
-QString SqliteCatalogo::nombrePropio(const QString& plegado)
+QString SqliteCatalogo::nombrePropio(QStringView pedido)
 {
     // Compared here and not by the engine, whose own comparison knows no case beyond ASCII.
     QString hallado;
     m_motor.consulta("select name from sqlite_master where type in ('table', 'view')", {}, [&](sqlite3_stmt* fila) {
-        if (const QString nombre = SqliteMotor::texto(fila, 0); nombre.toCaseFolded() == plegado)
+        if (const QString nombre = SqliteMotor::texto(fila, 0); jet::mismoNombre(nombre, pedido))
             hallado = nombre;
     });
     return hallado;

@@ -41,7 +41,7 @@ private:
     };
 
     /// The spelling of the file, "" when there is no such table.
-    [[nodiscard]] QString nombrePropio(const QString& plegado);
+    [[nodiscard]] QString nombrePropio(QStringView pedido);
     [[nodiscard]] Definicion definicion(const QString& nombre);
     [[nodiscard]] std::unique_ptr<jet::Tabla> lee(const Definicion& definicion);
     void leeColumnas(const Definicion& definicion, jet::Tabla& tabla);
