@@ -40,6 +40,14 @@ QByteArray dondeIdentidad(jet::Motor motor, const jet::Tabla& tabla)
     return " where " + entreComillas(motor, tabla.identidad) + " = " + marcaDeIdentidad(motor, tabla);
 }
 
+/// A truth of the engine's own is a condition. PostgreSQL has to be told what the number in it is.
+QByteArray marcaDe(jet::Motor motor, const jet::Tabla& tabla, int columna)
+{
+    if (!tabla.columnas[static_cast<size_t>(columna)].esVerdadDelMotor)
+        return "?";
+    return motor == jet::Motor::PostgreSql ? QByteArray{"cast(? as smallint) <> 0"} : QByteArray{"? <> 0"};
+}
+
 QByteArray sinColumnas(jet::Motor motor)
 {
     return motor == jet::Motor::MariaDb ? QByteArray{" () values ()"} : QByteArray{" default values"};
@@ -53,17 +61,21 @@ QByteArray sqlInsercion(jet::Motor motor, const jet::Tabla& tabla, std::span<con
     if (columnas.empty())
         return sql + sinColumnas(motor);
     sql += " (";
-    for (const int columna : columnas)
+    QByteArray marcas;
+    for (const int columna : columnas) {
         sql += entreComillas(motor, nombreDe(tabla, columna)) + ", ";
+        marcas += marcaDe(motor, tabla, columna) + ", ";
+    }
     sql.chop(2);
-    return sql + ") values (" + QByteArray("?, ").repeated(static_cast<qsizetype>(columnas.size()) - 1) + "?)";
+    marcas.chop(2);
+    return sql + ") values (" + marcas + ")";
 }
 
 QByteArray sqlModificacion(jet::Motor motor, const jet::Tabla& tabla, std::span<const int> columnas)
 {
     QByteArray sql = "update " + entreComillas(motor, tabla.nombre) + " set ";
     for (const int columna : columnas)
-        sql += entreComillas(motor, nombreDe(tabla, columna)) + " = ?, ";
+        sql += entreComillas(motor, nombreDe(tabla, columna)) + " = " + marcaDe(motor, tabla, columna) + ", ";
     sql.chop(2);
     return sql + dondeIdentidad(motor, tabla);
 }

@@ -41,6 +41,7 @@ struct Dialecto
     std::array<Envoltura, 4> parte;     ///< by ParteDeFecha
     std::array<Envoltura, 5> agregado;  ///< by FuncionAgregada
     Envoltura condicionComoValor;
+    Envoltura verdadComoNumero{}; ///< round a column of the engine's own type of truths
     UnionDeTextos textosUnidos;
     Envoltura textoNoNulo;   ///< Null becomes the empty text
     Envoltura claveConCeros; ///< a row's number as text of fixed width

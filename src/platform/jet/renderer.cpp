@@ -60,7 +60,7 @@ void Renderer::sentencia(const Insercion& insercion, const ColumnasOcultas&)
     pon(" (");
     conComas(insercion.asignaciones, [this](const Asignacion& a) { identificador(descrita({0, a.columna}).nombre); });
     pon(") VALUES (");
-    conComas(insercion.asignaciones, [this](const Asignacion& a) { expresion(*a.valor); });
+    conComas(insercion.asignaciones, [this](const Asignacion& a) { escrita(a); });
     pon(")");
 }
 
@@ -72,9 +72,18 @@ void Renderer::sentencia(const Modificacion& modificacion, const ColumnasOcultas
     conComas(modificacion.asignaciones, [this](const Asignacion& a) {
         identificador(descrita({0, a.columna}).nombre);
         pon(" = ");
-        expresion(*a.valor);
+        escrita(a);
     });
     clausula(" WHERE ", modificacion.donde);
+}
+
+/// What goes into a column: one of truths takes a condition.
+void Renderer::escrita(const Asignacion& asignacion)
+{
+    if (!descrita({0, asignacion.columna}).esVerdadDelMotor)
+        return expresion(*asignacion.valor);
+    expresion(*asignacion.valor, PrecedenciaSql::Suma);
+    pon(" <> 0");
 }
 
 void Renderer::sentencia(const Borrado& borrado, const ColumnasOcultas&)
@@ -142,6 +151,16 @@ void Renderer::columnaDe(int fuente, QStringView nombre)
     calificador(fuente);
     m_sql += '.';
     identificador(nombre);
+}
+
+/// A column as expressions see it.
+void Renderer::columna(enlazado::Columna una)
+{
+    const jet::Columna& suya = descrita(una);
+    const Envoltura envoltura = suya.esVerdadDelMotor ? m_dialecto.verdadComoNumero : Envoltura{};
+    pon(envoltura.antes);
+    columnaDe(una.fuente, suya.nombre);
+    pon(envoltura.despues);
 }
 
 const jet::Columna& Renderer::descrita(enlazado::Columna columna) const

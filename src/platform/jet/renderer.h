@@ -111,6 +111,8 @@ private:
     void identificador(QStringView nombre);
     void calificador(int fuente);
     void columnaDe(int fuente, QStringView nombre);
+    void columna(enlazado::Columna una);
+    void escrita(const enlazado::Asignacion& asignacion);
     [[nodiscard]] const Tabla& tabla(int fuente) const { return *m_sentencia.tablas[static_cast<size_t>(fuente)]; }
     [[nodiscard]] const Columna& descrita(enlazado::Columna columna) const;
 

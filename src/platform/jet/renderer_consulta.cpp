@@ -84,7 +84,7 @@ void Renderer::lista(const Consulta& una, const ColumnasOcultas& ocultas)
     });
     if (ocultas.clave) {
         pon(", ");
-        columnaDe(ocultas.clave->fuente, descrita(*ocultas.clave).nombre);
+        columna(*ocultas.clave);
     }
     if (ocultas.identidad) {
         pon(", ");

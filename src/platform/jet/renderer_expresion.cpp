@@ -43,7 +43,7 @@ void Renderer::comparado(const Expresion& e, Familia familia, const Expresion* o
 
 void Renderer::nodo(const enlazado::Columna& dato, const Expresion&)
 {
-    columnaDe(dato.fuente, descrita(dato).nombre);
+    columna(dato);
 }
 
 /// The oldest row of the group has the least number: written before the text in fixed width, it makes that text the least.

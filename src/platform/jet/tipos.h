@@ -19,6 +19,7 @@ struct Columna
     TipoColumna tipo = TipoColumna::Texto;
     int ancho = 0; ///< characters (code points) of a Texto, 0 when unlimited
     bool admiteNulo = true;
+    bool esVerdadDelMotor = false; ///< a SiNo of the engine's own type of truths, which are no numbers: read as -1 and 0
 
     friend bool operator==(const Columna&, const Columna&) = default;
 };

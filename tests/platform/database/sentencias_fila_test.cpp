@@ -52,5 +52,16 @@ TEST(SentenciasFila, TheIdentityHasTheTypeOfItsColumnOrIsANumberOfAnySize)
     EXPECT_EQ(tipoDeIdentidad(porClave), TipoColumna::Texto);
 }
 
+TEST(SentenciasFila, TruthsOfTheEnginesOwnAreConditions)
+{
+    jet::Tabla socios = tabla();
+    socios.columnas.push_back({u"activo"_s, TipoColumna::SiNo, 0, true, true});
+    const int columnas[] = {2, 0};
+    EXPECT_EQ(sqlInsercion(Motor::PostgreSql, socios, columnas),
+              "insert into \"informes\" (\"activo\", \"texto1\") values (cast(? as smallint) <> 0, ?)");
+    EXPECT_EQ(sqlModificacion(Motor::MariaDb, socios, columnas),
+              "update `informes` set `activo` = ? <> 0, `texto1` = ? where `rowid` = cast(? as signed)");
+}
+
 } // namespace
 } // namespace kestrane::database

@@ -29,5 +29,31 @@ TEST(RendererTest, ThereAreAsManyMarksAsParameters)
     }
 }
 
+/// What becomes of a statement on a table whose column `activo` is of the engine's own type of truths.
+QString conVerdades(const QString& sentencia, Motor motor)
+{
+    CatalogoPrueba catalogo;
+    catalogo.anade(tablaDePrueba(u"socios"_s,
+                                 {{u"codigo"_s, TipoColumna::Entero32},
+                                  {.nombre = u"activo"_s, .tipo = TipoColumna::SiNo, .ancho = 0, .esVerdadDelMotor = true}},
+                                 motor));
+    const auto traduccion = Traductor{catalogo, motor, ConfiguracionRegional::espania()}.traduce(sentencia);
+    return traduccion ? QString::fromUtf8(traduccion.valor().sql) : describe(traduccion.error(), sentencia);
+}
+
+TEST(RendererTest, ATruthOfTheEnginesOwnIsReadAsANumberAndWrittenAsACondition)
+{
+    const QString consulta = u"select count(*) as n from socios where activo = true"_s;
+    EXPECT_EQ(conVerdades(consulta, Motor::PostgreSql),
+              u"SELECT COUNT(*) FROM \"socios\" AS t0 WHERE (-CAST(t0.\"activo\" AS integer)) = -1"_s);
+    EXPECT_EQ(conVerdades(consulta, Motor::MariaDb),
+              u"SELECT COUNT(*) FROM `socios` AS t0 WHERE (-CAST(t0.`activo` AS SIGNED)) = -1"_s);
+    EXPECT_EQ(conVerdades(u"insert into socios (activo,codigo) values (1,2)"_s, Motor::PostgreSql),
+              u"INSERT INTO \"socios\" (\"activo\", \"codigo\") VALUES (CAST(? AS smallint) <> 0, CAST(? AS integer))"_s);
+    EXPECT_EQ(conVerdades(u"update socios set activo = false"_s, Motor::MariaDb), u"UPDATE `socios` SET `activo` = 0 <> 0"_s);
+    EXPECT_EQ(conVerdades(u"update socios set activo = codigo > 3"_s, Motor::MariaDb),
+              u"UPDATE `socios` SET `activo` = -(`socios`.`codigo` > ?) <> 0"_s);
+}
+
 } // namespace
 } // namespace kestrane::jet

@@ -27,7 +27,7 @@ QString sqlDe(const QString& tabla, const std::vector<jet::Columna>& columnas)
     QStringList marcas;
     for (const jet::Columna& columna : columnas) {
         nombres += entreComillas(columna.nombre);
-        marcas += u"?"_s;
+        marcas += columna.esVerdadDelMotor ? u"? <> 0"_s : u"?"_s;
     }
     return u"INSERT INTO %1 (%2) VALUES (%3)"_s.arg(entreComillas(tabla), nombres.join(u", "_s), marcas.join(u", "_s));
 }

@@ -47,15 +47,16 @@ QString sqlDe(const QString& tabla, const std::vector<jet::Columna>& columnas)
 {
     QStringList nombres;
     QStringList elementos;
+    QStringList valores;
     QStringList listas;
     for (const jet::Columna& columna : columnas) {
         nombres += entreComillas(columna.nombre);
         elementos += u"c%1"_s.arg(elementos.size());
+        valores += columna.esVerdadDelMotor ? elementos.last() + u" <> 0"_s : elementos.last();
         listas += u"?::"_s + tipoDeLista(columna.tipo);
     }
-    const QString cada = elementos.join(u", "_s);
-    return u"INSERT INTO %1 (%2) SELECT %3 FROM unnest(%4) WITH ORDINALITY AS filas (%3, n) ORDER BY n"_s.arg(
-        entreComillas(tabla), nombres.join(u", "_s), cada, listas.join(u", "_s));
+    return u"INSERT INTO %1 (%2) SELECT %3 FROM unnest(%4) WITH ORDINALITY AS filas (%5, n) ORDER BY n"_s.arg(
+        entreComillas(tabla), nombres.join(u", "_s), valores.join(u", "_s), listas.join(u", "_s), elementos.join(u", "_s));
 }
 
 void anade(BloqueBytes& texto, std::string_view trozo)

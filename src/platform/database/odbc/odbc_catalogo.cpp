@@ -3,6 +3,7 @@
 #include "platform/database/odbc/odbc_sentencia.h"
 #include "platform/jet/nombres.h"
 
+#include <algorithm>
 #include <array>
 
 using namespace Qt::StringLiterals;
@@ -17,13 +18,14 @@ struct Nombrado
 {
     QLatin1StringView nombre;
     TipoColumna tipo;
+    bool esVerdad = false;
 };
 
 // `sino` is the domain that crear-tienda makes.
 constexpr Nombrado TiposPostgreSql[] = {
     {"int4"_L1, TipoColumna::Entero32},       {"int2"_L1, TipoColumna::Entero16},
     {"int8"_L1, TipoColumna::Doble},          {"sino"_L1, TipoColumna::SiNo},
-    {"bool"_L1, TipoColumna::SiNo},           {"float8"_L1, TipoColumna::Doble},
+    {"bool"_L1, TipoColumna::SiNo, true},     {"float8"_L1, TipoColumna::Doble},
     {"float4"_L1, TipoColumna::Doble},        {"numeric"_L1, TipoColumna::Doble},
     {"timestamp"_L1, TipoColumna::FechaHora}, {"timestamptz"_L1, TipoColumna::FechaHora},
     {"date"_L1, TipoColumna::FechaHora},      {"time"_L1, TipoColumna::FechaHora},
@@ -31,21 +33,11 @@ constexpr Nombrado TiposPostgreSql[] = {
 };
 
 constexpr Nombrado TiposMariaDb[] = {
-    {"int"_L1, TipoColumna::Entero32},
-    {"mediumint"_L1, TipoColumna::Entero32},
-    {"smallint"_L1, TipoColumna::Entero16},
-    {"tinyint"_L1, TipoColumna::SiNo},
-    {"bit"_L1, TipoColumna::SiNo},
-    {"bigint"_L1, TipoColumna::Doble},
-    {"double"_L1, TipoColumna::Doble},
-    {"float"_L1, TipoColumna::Doble},
-    {"decimal"_L1, TipoColumna::Doble},
-    {"datetime"_L1, TipoColumna::FechaHora},
-    {"timestamp"_L1, TipoColumna::FechaHora},
-    {"date"_L1, TipoColumna::FechaHora},
-    {"time"_L1, TipoColumna::FechaHora},
-    {"varchar"_L1, TipoColumna::Texto},
-    {"char"_L1, TipoColumna::Texto},
+    {"int"_L1, TipoColumna::Entero32},       {"mediumint"_L1, TipoColumna::Entero32},  {"smallint"_L1, TipoColumna::Entero16},
+    {"tinyint"_L1, TipoColumna::SiNo},       {"bit"_L1, TipoColumna::SiNo, true},      {"bigint"_L1, TipoColumna::Doble},
+    {"double"_L1, TipoColumna::Doble},       {"float"_L1, TipoColumna::Doble},         {"decimal"_L1, TipoColumna::Doble},
+    {"datetime"_L1, TipoColumna::FechaHora}, {"timestamp"_L1, TipoColumna::FechaHora}, {"date"_L1, TipoColumna::FechaHora},
+    {"time"_L1, TipoColumna::FechaHora},     {"varchar"_L1, TipoColumna::Texto},       {"char"_L1, TipoColumna::Texto},
 };
 
 // One row for each column: table, column, type, width, null allowed, place in the primary key (from 1, 0: not in it), rules that
@@ -124,8 +116,15 @@ void anade(jet::Tabla& tabla, const AlmacenFilas& fila, jet::Motor motor)
     }
     if (const int lugar = fila.valor(LugarEnClave).entero32(); lugar > 0)
         ponEnOrden(tabla.orden, lugar, columna);
-    const auto [tipo, ancho] = tipoDeServidor(motor, fila.valor(Tipo).texto(), fila.valor(Ancho).entero32());
-    tabla.columnas.push_back({columna, tipo, ancho, fila.valor(AdmiteNulo).entero32() != 0});
+    const auto [tipo, ancho, esVerdad] = tipoDeServidor(motor, fila.valor(Tipo).texto(), fila.valor(Ancho).entero32());
+    tabla.columnas.push_back({columna, tipo, ancho, fila.valor(AdmiteNulo).entero32() != 0, esVerdad});
+}
+
+/// No number that a row is asked for by equals the engine's own truths.
+bool sirveDeIdentidad(const jet::Tabla& tabla, const QString& nombre)
+{
+    const auto esSuya = [&](const jet::Columna& columna) { return columna.esVerdadDelMotor && columna.nombre == nombre; };
+    return std::ranges::none_of(tabla.columnas, esSuya);
 }
 
 std::shared_ptr<jet::Tabla> lee(const std::shared_ptr<OdbcConexion>& conexion, QStringView nombre)
@@ -141,7 +140,7 @@ std::shared_ptr<jet::Tabla> lee(const std::shared_ptr<OdbcConexion>& conexion, Q
     }
     if (!tabla->identidad.isEmpty())
         tabla->orden = {tabla->identidad};
-    else if (tabla->orden.size() == 1)
+    else if (tabla->orden.size() == 1 && sirveDeIdentidad(*tabla, tabla->orden.front()))
         tabla->identidad = tabla->orden.front();
     return tabla;
 }
@@ -153,7 +152,7 @@ TipoServidor tipoDeServidor(jet::Motor motor, QStringView tipo, int ancho)
     const auto busca = [&](std::span<const Nombrado> tipos) -> TipoServidor {
         for (const Nombrado& uno : tipos) {
             if (uno.nombre == tipo)
-                return {uno.tipo, uno.tipo == TipoColumna::Texto ? ancho : 0};
+                return {uno.tipo, uno.tipo == TipoColumna::Texto ? ancho : 0, uno.esVerdad};
         }
         return {};
     };

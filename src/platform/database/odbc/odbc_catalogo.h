@@ -30,6 +30,7 @@ struct TipoServidor
 {
     jet::TipoColumna tipo = jet::TipoColumna::Memo;
     int ancho = 0;
+    bool esVerdadDelMotor = false; ///< as in jet::Columna
 
     friend bool operator==(const TipoServidor&, const TipoServidor&) = default;
 };

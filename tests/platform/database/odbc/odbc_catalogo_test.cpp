@@ -14,8 +14,10 @@ TEST(TipoDeServidor, TheServersTypesAreThoseOfTheDialect)
     EXPECT_EQ(pg(u"text"), (TipoServidor{TipoColumna::Memo, 0}));
     EXPECT_EQ(pg(u"int8"), (TipoServidor{TipoColumna::Doble, 0})) << "wider than any integer of the dialect";
     EXPECT_EQ(pg(u"jsonb"), (TipoServidor{TipoColumna::Memo, 0}));
+    EXPECT_EQ(pg(u"bool"), (TipoServidor{TipoColumna::SiNo, 0, true})) << "no number, as that of sino is";
     const auto maria = [](const char16_t* tipo, int ancho = 0) { return tipoDeServidor(jet::Motor::MariaDb, tipo, ancho); };
     EXPECT_EQ(maria(u"tinyint"), (TipoServidor{TipoColumna::SiNo, 0}));
+    EXPECT_EQ(maria(u"bit"), (TipoServidor{TipoColumna::SiNo, 0, true}));
     EXPECT_EQ(maria(u"datetime"), (TipoServidor{TipoColumna::FechaHora, 0}));
     EXPECT_EQ(maria(u"char", 3), (TipoServidor{TipoColumna::Texto, 3}));
     EXPECT_EQ(maria(u"mediumtext", 65535), (TipoServidor{TipoColumna::Memo, 0}));
