@@ -73,16 +73,17 @@ void RendererMariadb::aritmetica(const Aritmetica& cuenta)
     }
 }
 
-/// A power of zero below nought is out of range, which is an error where a division by zero would be a Null.
+/// A power of zero below nought is out of range, which is an error where a division by zero would be a Null. LEAST does not look
+/// behind a Null, which divided by zero is one; what else it looks at there is no less than any dividend.
 void RendererMariadb::divisionQueFalla(const Aritmetica& cuenta, const char* operador, const Envoltura& clase)
 {
-    pon("IF(");
-    operando(*cuenta.derecha, clase);
-    pon(" = 0, POW(0, -1), ");
+    pon("LEAST(");
     operando(*cuenta.izquierda, clase);
+    pon(", IF(");
+    operando(*cuenta.derecha, clase);
+    pon(&clase == &Entero ? " = 0, CAST(POW(0, -1) AS SIGNED), 2147483647))" : " = 0, POW(0, -1), 1.7976931348623157E308))");
     pon(operador);
     operando(*cuenta.derecha, clase);
-    pon(")");
 }
 
 /// What has 32 bits already stands as it is.

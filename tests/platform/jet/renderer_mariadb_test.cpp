@@ -40,11 +40,14 @@ TEST(RendererMariadbTest, LikeEscapesByACharacterThatNoTextHolds)
 TEST(RendererMariadbTest, ADivisionByZeroIsAnErrorAndNoNull)
 {
     expresion(u"total / pago"_s,
-              u"IF(CAST(t0.`pago` AS DOUBLE) = 0, POW(0, -1), CAST(t0.`total` AS DOUBLE) / CAST(t0.`pago` AS DOUBLE))"_s);
-    expresion(u"total \\ pago"_s,
-              u"IF(t0.`pago` = 0, POW(0, -1), (CAST(ROUND(CAST(t0.`total` AS DOUBLE)) AS SIGNED) * 4294967296 DIV 4294967296) DIV "
-              "t0.`pago`)"_s);
-    expresion(u"numero mod 2"_s, u"IF(? = 0, POW(0, -1), t0.`numero` MOD ?)"_s);
+              u"LEAST(CAST(t0.`total` AS DOUBLE), IF(CAST(t0.`pago` AS DOUBLE) = 0, POW(0, -1), 1.7976931348623157E308)) / "
+              "CAST(t0.`pago` AS DOUBLE)"_s);
+    expresion(u"total \\ pago"_s, u"LEAST((CAST(ROUND(CAST(t0.`total` AS DOUBLE)) AS SIGNED) * 4294967296 DIV 4294967296), "
+                                  "IF(t0.`pago` = 0, CAST(POW(0, -1) AS SIGNED), 2147483647)) DIV t0.`pago`"_s);
+    expresion(u"numero mod 2"_s, u"LEAST(t0.`numero`, IF(? = 0, CAST(POW(0, -1) AS SIGNED), 2147483647)) MOD ?"_s);
+    expresion(u"-(total / pago)"_s,
+              u"-(LEAST(CAST(t0.`total` AS DOUBLE), IF(CAST(t0.`pago` AS DOUBLE) = 0, POW(0, -1), 1.7976931348623157E308)) / "
+              "CAST(t0.`pago` AS DOUBLE))"_s);
 }
 
 TEST(RendererMariadbTest, ValuesAsTexts)
