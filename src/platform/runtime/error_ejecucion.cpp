@@ -27,6 +27,8 @@ QString descripcionPropia(ErrorEjecucion::Numero numero)
         return u"No se encuentra el elemento en la colección."_s;
     case ErrorEjecucion::ConexionImposible:
         return u"No se puede abrir la conexión con la base de datos."_s;
+    case ErrorEjecucion::LayoutIncorrecto:
+        return u"El diseño del informe no es correcto."_s;
     case ErrorEjecucion::SentenciaRechazada:
         return u"La base de datos ha rechazado la sentencia."_s;
     }

@@ -21,6 +21,7 @@ TEST(ErrorEjecucion, NumeroYDescripcionPropia)
     es(ErrorEjecucion::SinRegistroActual, 3021, u"No hay ningún registro actual."_s);
     es(ErrorEjecucion::CampoInexistente, 3265, u"No se encuentra el elemento en la colección."_s);
     es(ErrorEjecucion::ConexionImposible, -2147467259, u"No se puede abrir la conexión con la base de datos."_s);
+    es(ErrorEjecucion::LayoutIncorrecto, 20001, u"El diseño del informe no es correcto."_s);
     es(ErrorEjecucion::SentenciaRechazada, -2147217900, u"La base de datos ha rechazado la sentencia."_s);
 }
 
