@@ -45,7 +45,7 @@ enum class FuncionAgregado { Suma, Cuenta, Media, Minimo, Maximo, Acumulado };
 struct Agregado
 {
     FuncionAgregado funcion = FuncionAgregado::Suma;
-    Expresion de;  ///< over columns alone; Null rows do not count
+    Expresion de;  ///< over columns alone; Null rows do not count. Empty, for Cuenta alone: every row counts
     int nivel = 0; ///< 0: the whole report; n: the group Layout::grupos[n - 1]. Acumulado begins anew there
 };
 
@@ -93,12 +93,17 @@ private:
     std::unique_ptr<Programa> m_programa;
 };
 
+/// What an expression may hold: keys are needed before there are pages and sums.
+enum class AlcanceExpresion { Todo, SoloColumnas };
+
 /// The groups that an expression may name in its aggregates, from the outside in, and the aggregates found so far.
 struct ContextoAnalisis
 {
     QStringList grupos;
     int nivel = 0; ///< of an aggregate that names no group: that of the section in which the expression stands
     std::vector<Agregado>& agregados;
+    QString titulo = {}; ///< what the word `titulo` stands for: the report's
+    AlcanceExpresion alcance = AlcanceExpresion::Todo;
 };
 
 /// Parses `texto`. ErrorEjecucion LayoutIncorrecto with file, line and what was expected.

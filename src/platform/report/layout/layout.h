@@ -115,6 +115,7 @@ struct Grupo
     QString nombre;
     Expresion por;
     bool descendente = false;
+    bool ordena = true;          ///< rows are sorted by the key; otherwise it cuts them wherever it changes
     bool saltoDePagina = false;  ///< each but the first begins a page
     bool juntoALaPrimera = true; ///< its header is never the last thing on a page
     bool repiteCabecera = false; ///< on each page that it goes on to
