@@ -5,6 +5,8 @@
 
 #include <QString>
 
+#include <optional>
+
 namespace kestrane::report {
 
 /// How a value is written on paper and what kind of cell it is in a spreadsheet.
@@ -19,6 +21,9 @@ enum class Formato {
     Hora,       ///< 9:05
 };
 
+/// The format that layouts call `nombre` ("moneda", "fecha-hora"), case ignored.
+[[nodiscard]] std::optional<Formato> formatoDeNombre(QStringView nombre);
+
 struct FormatoValor
 {
     Formato formato = Formato::General;
@@ -28,8 +33,9 @@ struct FormatoValor
     friend bool operator==(const FormatoValor&, const FormatoValor&) = default;
 };
 
-/// `valor` as it stands on paper, with the marks of `regional`; Null gives "". A text under a number's or date's format stays as it
-/// is.
+/// `valor` as it stands on paper, with the marks of `regional`; Null gives "". What is no number under a number's format and no
+/// date under a date's stays as the platform's conversion writes it; the zero day is no day: Fecha leaves it blank, FechaHora
+/// writes the time alone. A percentage is written as it stands: 12.5 is 12,50 %. Error 6 for an infinity.
 [[nodiscard]] QString escribeValor(const Valor& valor, const FormatoValor& formato, const ConfiguracionRegional& regional);
 
 } // namespace kestrane::report
