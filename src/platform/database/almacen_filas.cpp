@@ -124,6 +124,14 @@ bool LectorFilas::siguiente()
     return true;
 }
 
+void LectorFilas::vuelve(const Sitio& sitio)
+{
+    m_fila = sitio.fila;
+    m_siguiente = sitio.enMemoria;
+    m_enFichero = sitio.enFichero;
+    m_conocidas = 0;
+}
+
 const char* LectorFilas::empaquetada() const
 {
     return m_esDeFichero ? m_leida.datos() : m_almacen->m_memoria.datos() + m_inicio;
@@ -256,6 +264,15 @@ void AlmacenFilas::terminaFila()
         ++m_filasEnMemoria;
     ++m_filas;
     m_inicioFila = m_memoria.tamano();
+}
+
+void AlmacenFilas::copiaFila(const char* empaquetada)
+{
+    quint32 bytes = 0;
+    std::memcpy(&bytes, empaquetada, sizeof bytes);
+    m_inicioFila = m_memoria.tamano();
+    m_memoria.copia(empaquetada, bytes);
+    terminaFila();
 }
 
 void AlmacenFilas::abandonaFila()

@@ -64,6 +64,18 @@ public:
     /// The whole current row as packed bytes, for AlmacenFilas::copiaFila.
     [[nodiscard]] const char* empaquetada() const;
 
+    /// A place between two rows, for coming back to it.
+    struct Sitio
+    {
+        qsizetype fila = 0; ///< rows before it
+        qsizetype enMemoria = 0;
+        qsizetype enFichero = 0;
+    };
+    /// Behind the current row.
+    [[nodiscard]] Sitio sitio() const { return {m_fila, m_siguiente, m_enFichero}; }
+    /// Goes on behind a place of the same store; there is no current row until `siguiente`.
+    void vuelve(const Sitio& sitio);
+
 private:
     const AlmacenFilas* m_almacen = nullptr;
     qsizetype m_fila = 0;
@@ -106,6 +118,8 @@ public:
     /// The field as it lies in this or another store.
     void ponCelda(const Celda& celda);
     void terminaFila();
+    /// Adds a row of a store with as many columns, as LectorFilas::empaquetada gives it.
+    void copiaFila(const char* empaquetada);
     /// Takes back what was written of a row since empiezaFila; harmless between rows.
     void abandonaFila();
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 namespace kestrane::database {
 namespace {
 
@@ -162,6 +164,39 @@ TEST(AlmacenFilas, MovedItTakesItsRowsAlong)
     AlmacenFilas otra{std::move(una)};
     ASSERT_TRUE(otra.siguiente());
     EXPECT_EQ(otra.valor(1), Valor{u"uno"_s});
+}
+
+TEST(AlmacenFilas, ReaderComesBackToAPlaceInMemoryAndInTheFile)
+{
+    AlmacenFilas filas{2, 100};
+    for (int i = 0; i < 20; ++i)
+        anade(filas, i, u"fila"_s);
+    ASSERT_TRUE(filas.usaFichero());
+    LectorFilas lector{filas};
+    std::vector<LectorFilas::Sitio> sitios;
+    do
+        sitios.push_back(lector.sitio());
+    while (lector.siguiente());
+    for (const int fila : {17, 2, 19, 0}) {
+        lector.vuelve(sitios[static_cast<size_t>(fila)]);
+        ASSERT_TRUE(lector.siguiente());
+        EXPECT_EQ(lector.valor(0), Valor{fila});
+        EXPECT_EQ(lector.fila(), fila + 1);
+    }
+}
+
+TEST(AlmacenFilas, PackedRowsGoFromStoreToStore)
+{
+    AlmacenFilas filas{2};
+    anade(filas, 1, u"uno"_s);
+    anade(filas, 2, u"dos"_s);
+    AlmacenFilas copia{2};
+    LectorFilas lector{filas};
+    while (lector.siguiente())
+        copia.copiaFila(lector.empaquetada());
+    ASSERT_EQ(copia.filas(), 2);
+    ASSERT_TRUE(copia.siguiente() && copia.siguiente());
+    EXPECT_EQ(copia.valor(1), Valor{u"dos"_s});
 }
 
 } // namespace
