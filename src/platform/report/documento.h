@@ -27,6 +27,8 @@ public:
     /// Reads the layout, runs its statements on connections of their own and copies what they give. Error of the layout, of the
     /// database, or of the disk that takes the copy.
     Documento(const QString& rutaLayout, database::EntornoDatos& entorno);
+    /// The same of a layout that is at hand.
+    Documento(Layout layout, database::EntornoDatos& entorno);
     ~Documento();
     Documento(const Documento&) = delete;
     Documento& operator=(const Documento&) = delete;
@@ -52,9 +54,13 @@ public:
     /// Reads the layout file again and lays out the same rows anew. When the file no longer fits, its error, and the document
     /// stays as it was.
     void actualiza();
+    /// Lays out the same rows anew by another layout of them; for one that does not fit as above.
+    void actualiza(Layout layout);
 
 private:
     class Interior;
+
+    QString m_ruta; ///< of the layout file, "" when there is none
     std::unique_ptr<Interior> m_interior;
 };
 

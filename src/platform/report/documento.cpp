@@ -1,0 +1,97 @@
+#include "platform/report/documento.h"
+
+#include "platform/report/filas_agrupadas.h"
+#include "platform/report/interior_documento.h"
+
+namespace kestrane::report {
+
+Documento::Interior::Interior(Layout layout, database::EntornoDatos& entorno) : m_regional{entorno.regional()}
+{
+    m_maquetado = std::make_unique<Maquetado>(
+        std::move(layout),
+        [&](const Layout& parte) { return std::make_unique<FilasAgrupadas>(parte, m_copias.de(parte, &entorno), m_regional); },
+        m_regional);
+}
+
+void Documento::Interior::cambia(Layout layout)
+{
+    // The report's own rows stay those of its first statement, whatever the layout says now.
+    layout.dsn = m_maquetado->layout().dsn;
+    layout.sentencia = m_maquetado->layout().sentencia;
+    m_maquetado = std::make_unique<Maquetado>(
+        std::move(layout),
+        [this](const Layout& parte) { return std::make_unique<FilasAgrupadas>(parte, m_copias.de(parte, nullptr), m_regional); },
+        m_regional);
+}
+
+Documento::Documento(Layout layout, database::EntornoDatos& entorno)
+    : m_interior{std::make_unique<Interior>(std::move(layout), entorno)}
+{
+}
+
+Documento::~Documento() = default;
+
+const Layout& Documento::layout() const
+{
+    return m_interior->maquetado().layout();
+}
+
+const FilasInforme& Documento::filas() const
+{
+    return m_interior->maquetado().filas();
+}
+
+const ConfiguracionRegional& Documento::regional() const
+{
+    return m_interior->regional();
+}
+
+bool Documento::avanza(QDeadlineTimer plazo)
+{
+    Maquetado& maquetado = m_interior->maquetado();
+    do
+        maquetado.avanza();
+    while (!maquetado.completo() && !plazo.hasExpired());
+    return maquetado.completo();
+}
+
+void Documento::completa()
+{
+    while (!completo())
+        m_interior->maquetado().avanza();
+}
+
+bool Documento::completo() const
+{
+    return m_interior->maquetado().completo();
+}
+
+double Documento::avance() const
+{
+    return m_interior->maquetado().avance();
+}
+
+int Documento::paginas() const
+{
+    return m_interior->maquetado().paginas();
+}
+
+PaginaCompuesta Documento::pagina(int indice)
+{
+    Maquetado& maquetado = m_interior->maquetado();
+    while (maquetado.paginas() <= indice && !maquetado.completo())
+        maquetado.avanza();
+    return indice >= 0 && indice < maquetado.paginas() ? maquetado.pagina(indice) : PaginaCompuesta{};
+}
+
+const std::vector<EntradaIndice>& Documento::indice() const
+{
+    return m_interior->maquetado().indice();
+}
+
+void Documento::actualiza(Layout layout)
+{
+    m_interior->cambia(std::move(layout));
+}
+
+} // namespace kestrane::report

@@ -1,0 +1,296 @@
+#include "platform/report/hoja.h"
+
+#include <algorithm>
+
+namespace kestrane::report {
+
+namespace {
+
+/// Sums of heights are not exact: labels that fill a sheet to the last hundredth must not run over.
+constexpr double Holgura = 0.001;
+/// What a band that cannot be cut takes at least of a page on which nothing else stands.
+constexpr double AvanceMinimo = 5;
+
+} // namespace
+
+Hoja::Hoja(const InformeEnlazado& informe, const MedidorBandas& medidor, const InicioPagina& inicio, const Contexto& numeros,
+           const SalidaHoja& salida)
+    : m_informe{informe}
+    , m_formato{informe.layout().pagina}
+    , m_medidor{medidor}
+    , m_recorrido{informe}
+    , m_lugar{inicio}
+    , m_numeros{numeros}
+    , m_salida{salida}
+    , m_ultimaFila{inicio.paso.fila}
+{
+}
+
+InicioPagina Hoja::llena()
+{
+    empieza();
+    while (m_lugar.paso.parte != Parte::Fin && sigue()) {
+    }
+    termina();
+    return m_lugar;
+}
+
+void Hoja::empieza()
+{
+    const double largo = m_formato.esRollo() ? m_formato.largoMaximo : m_formato.tamano.height();
+    m_y = m_formato.margenes.top();
+    m_altoPie = m_medidor.alto(m_informe, m_informe.piePagina(), contexto(m_lugar.paso.fila));
+    m_limite = largo - m_formato.margenes.bottom() - m_altoPie;
+    m_inicioCuerpo = m_y;
+    // The report's own header stands above the first headings.
+    m_faltanEncabezados = m_lugar.paso.parte == Parte::CabeceraInforme;
+    if (!m_faltanEncabezados)
+        ponEncabezados();
+}
+
+void Hoja::termina()
+{
+    cierraCajas();
+    if (m_faltanEncabezados && m_lugar.paso.parte == Parte::Fin)
+        ponEncabezados();
+    if (!m_formato.esRollo())
+        m_y = m_limite;
+    ponSeccion(m_informe.piePagina(), m_ultimaFila);
+    if (m_salida.pagina)
+        m_salida.pagina->tamano = {m_formato.tamano.width(),
+                                   m_formato.esRollo() ? m_y + m_formato.margenes.bottom() : m_formato.tamano.height()};
+}
+
+bool Hoja::sigue()
+{
+    const Parte parte = m_lugar.paso.parte;
+    if (parte != Parte::Detalle)
+        cierraCajas();
+    if (m_faltanEncabezados && parte != Parte::CabeceraInforme && !encabeza())
+        return false;
+    if (parte == Parte::AbreGrupos)
+        return abreGrupos();
+    if (parte == Parte::Detalle && m_formato.columnas > 1)
+        return colocaCaja();
+    const bool esCabecera = parte == Parte::CabeceraGrupo && m_lugar.paso.banda == 0;
+    if (esCabecera && !m_vacia && !cabe(necesario(m_lugar.paso)))
+        return false;
+    return colocaBanda();
+}
+
+/// Headings never stand alone at the end of a page.
+bool Hoja::encabeza()
+{
+    const double alto = m_medidor.alto(m_informe, m_informe.cabeceraPagina(), contexto(m_lugar.paso.fila));
+    if (!m_vacia && !cabe(alto + necesario(m_lugar.paso)))
+        return false;
+    ponEncabezados();
+    return true;
+}
+
+bool Hoja::abreGrupos()
+{
+    Paso& paso = m_lugar.paso;
+    const int primero = m_recorrido.primerNivelQueEmpieza(paso.fila);
+    bool salta = false;
+    for (int nivel = primero; nivel <= m_informe.niveles(); ++nivel)
+        salta = salta || (paso.fila > 0 && m_informe.grupo(nivel).grupo->saltoDePagina);
+    if (!m_vacia && (salta || !cabe(necesario(primero, paso.fila))))
+        return false;
+    if (m_salida.indice)
+        apuntaGrupos(primero);
+    m_recorrido.avanza(paso);
+    return true;
+}
+
+void Hoja::apuntaGrupos(int primero)
+{
+    const Contexto donde = contexto(m_lugar.paso.fila);
+    const AmbitoFila ambito{m_informe.filas(), donde};
+    for (int nivel = primero; nivel <= m_informe.niveles(); ++nivel) {
+        const ExpresionEnlazada& titulo = m_informe.grupo(nivel).titulo;
+        if (titulo.vacia())
+            continue;
+        QString texto = m_medidor.texto(titulo, ambito);
+        m_salida.indice->push_back({std::move(texto), nivel - 1, m_numeros.pagina - 1, m_y});
+    }
+}
+
+bool Hoja::colocaBanda()
+{
+    const BandaEnlazada& banda = m_recorrido.banda(m_lugar.paso);
+    const auto medida = m_medidor.mide(m_informe, banda, contexto(m_lugar.paso.fila));
+    if (!medida) {
+        m_recorrido.avanza(m_lugar.paso);
+        return true;
+    }
+    const bool entera = m_lugar.desde == 0;
+    if (entera && banda.banda->saltoAntes && !m_vacia)
+        return false;
+    if (entera && banda.banda->alPieDePagina && !m_formato.esRollo())
+        return colocaAlPie(*medida);
+    return coloca(*medida);
+}
+
+/// Neighbours that stand at the foot of the page stand there together.
+bool Hoja::colocaAlPie(const BandaMedida& banda)
+{
+    const SeccionEnlazada& seccion = *m_recorrido.seccion(m_lugar.paso);
+    double bloque = 0;
+    for (auto i = static_cast<size_t>(m_lugar.paso.banda); i < seccion.size() && seccion[i].banda->alPieDePagina; ++i) {
+        const auto medida = m_medidor.mide(m_informe, seccion[i], contexto(m_lugar.paso.fila));
+        bloque += medida ? medida->alto : 0;
+    }
+    if (cabe(bloque))
+        m_y = std::max(m_y, m_limite - bloque);
+    else if (!m_vacia)
+        return false;
+    return coloca(banda);
+}
+
+bool Hoja::coloca(const BandaMedida& banda)
+{
+    const double falta = banda.alto - m_lugar.desde;
+    if (!cabe(falta)) {
+        const bool cabeEnOtra = banda.alto <= m_limite - m_inicioCuerpo + Holgura;
+        if (!m_vacia && (!banda.esDivisible() || (cabeEnOtra && !banda.fluye())))
+            return false;
+        if (banda.esDivisible())
+            return parte(banda);
+    }
+    pon(banda, m_lugar.paso.fila, {{m_formato.margenes.left(), m_y}, m_lugar.desde});
+    m_y += falta;
+    m_lugar.desde = 0;
+    m_recorrido.avanza(m_lugar.paso);
+    return true;
+}
+
+/// Puts what fits of a band that goes on on the next page.
+bool Hoja::parte(const BandaMedida& banda)
+{
+    const double desde = m_lugar.desde;
+    const double resto = m_limite - m_y;
+    double hasta = m_medidor.corte(banda, desde, desde + std::max(resto, 0.0));
+    if (hasta <= desde + Holgura) {
+        if (!m_vacia)
+            return false;
+        hasta = desde + std::max(resto, AvanceMinimo);
+    }
+    pon(banda, m_lugar.paso.fila, {{m_formato.margenes.left(), m_y}, desde, hasta});
+    m_y += hasta - desde;
+    m_lugar.desde = hasta;
+    if (hasta < banda.alto)
+        return false;
+    m_lugar.desde = 0;
+    m_recorrido.avanza(m_lugar.paso);
+    return true;
+}
+
+/// The details of a row as one box beside others.
+bool Hoja::colocaCaja()
+{
+    Paso& paso = m_lugar.paso;
+    const SeccionEnlazada& detalle = m_informe.detalle();
+    const double alto = m_medidor.alto(m_informe, detalle, contexto(paso.fila));
+    if (!m_vacia && !cabe(alto))
+        return false;
+    const double ancho = (m_formato.anchoUtil() - (m_formato.columnas - 1) * m_formato.separacion) / m_formato.columnas;
+    const double x = m_formato.margenes.left() + m_columna * (ancho + m_formato.separacion);
+    double y = m_y;
+    for (const BandaEnlazada& banda : detalle) {
+        if (const auto medida = m_medidor.mide(m_informe, banda, contexto(paso.fila))) {
+            pon(*medida, paso.fila, {{x, y}});
+            y += medida->alto;
+        }
+    }
+    m_altoCajas = std::max(m_altoCajas, alto);
+    if (++m_columna == m_formato.columnas)
+        cierraCajas();
+    paso.banda = static_cast<int>(detalle.size()) - 1;
+    m_recorrido.avanza(paso);
+    return true;
+}
+
+void Hoja::cierraCajas()
+{
+    m_y += m_altoCajas;
+    m_altoCajas = 0;
+    m_columna = 0;
+}
+
+void Hoja::ponEncabezados()
+{
+    m_faltanEncabezados = false;
+    const qsizetype fila = m_lugar.paso.fila;
+    ponSeccion(m_informe.cabeceraPagina(), fila);
+    for (int nivel = 1; nivel <= m_recorrido.nivelesAbiertos(m_lugar.paso); ++nivel) {
+        if (m_informe.grupo(nivel).grupo->repiteCabecera)
+            ponSeccion(m_informe.grupo(nivel).cabecera, fila);
+    }
+    m_inicioCuerpo = m_y;
+}
+
+void Hoja::ponSeccion(const SeccionEnlazada& seccion, qsizetype fila)
+{
+    const bool vacia = m_vacia;
+    for (const BandaEnlazada& banda : seccion) {
+        if (const auto medida = m_medidor.mide(m_informe, banda, contexto(fila))) {
+            pon(*medida, fila, {{m_formato.margenes.left(), m_y}});
+            m_y += medida->alto;
+        }
+    }
+    m_vacia = vacia;
+}
+
+void Hoja::pon(const BandaMedida& banda, qsizetype fila, const TramoBanda& tramo)
+{
+    if (m_salida.compositor)
+        m_salida.compositor->compone(m_informe, banda, contexto(fila), tramo, *m_salida.pagina);
+    m_vacia = false;
+    m_ultimaFila = fila;
+}
+
+bool Hoja::cabe(double alto) const
+{
+    return m_y + alto <= m_limite + Holgura;
+}
+
+double Hoja::necesario(int nivel, qsizetype fila) const
+{
+    const GrupoEnlazado& grupo = m_informe.grupo(nivel);
+    const double alto = m_medidor.alto(m_informe, grupo.cabecera, contexto(fila));
+    if (!grupo.grupo->juntoALaPrimera)
+        return alto;
+    return alto + (nivel < m_informe.niveles() ? necesario(nivel + 1, fila) : altoPrimeraFila(fila));
+}
+
+double Hoja::necesario(const Paso& paso) const
+{
+    if (paso.parte == Parte::AbreGrupos)
+        return necesario(m_recorrido.primerNivelQueEmpieza(paso.fila), paso.fila);
+    if (paso.parte == Parte::CabeceraGrupo)
+        return necesario(paso.nivel, paso.fila);
+    if (paso.parte == Parte::Detalle)
+        return altoPrimeraFila(paso.fila);
+    return altoMinimo(m_recorrido.banda(paso), paso.fila);
+}
+
+double Hoja::altoPrimeraFila(qsizetype fila) const
+{
+    double alto = 0;
+    for (const BandaEnlazada& banda : m_informe.detalle())
+        alto += altoMinimo(banda, fila);
+    return alto;
+}
+
+/// What of a band must stand with what is above it: all, unless it may go on on the next page.
+double Hoja::altoMinimo(const BandaEnlazada& banda, qsizetype fila) const
+{
+    const auto medida = m_medidor.mide(m_informe, banda, contexto(fila));
+    if (!medida)
+        return 0;
+    const bool seParte = medida->esDivisible() && (medida->fluye() || medida->alto > m_limite - m_inicioCuerpo);
+    return seParte ? banda.banda->alto : medida->alto;
+}
+
+} // namespace kestrane::report

@@ -1,0 +1,80 @@
+#pragma once
+
+#include "platform/report/compositor.h"
+#include "platform/report/documento.h"
+
+namespace kestrane::report {
+
+/// Where a page begins: all that is needed to compose it anew.
+struct InicioPagina
+{
+    Paso paso;
+    double desde = 0; ///< of a band that was cut, how much of it stands on the pages before
+};
+
+/// What comes of a page besides its end. Without a compositor nothing is painted.
+struct SalidaHoja
+{
+    Compositor* compositor = nullptr;
+    PaginaCompuesta* pagina = nullptr;
+    std::vector<EntradaIndice>* indice = nullptr;
+};
+
+/// Fills one page with bands, from a place in the report as far as they fit. The same whether they are painted or not, so that a
+/// page painted later is the one that was laid out.
+class Hoja
+{
+public:
+    /// `numeros` has the page's number and how many there are.
+    Hoja(const InformeEnlazado& informe, const MedidorBandas& medidor, const InicioPagina& inicio, const Contexto& numeros,
+         const SalidaHoja& salida);
+
+    /// Fills it and returns where the next page begins; at Parte::Fin there is none. Each page takes in something, so that all of
+    /// them come to an end however small the paper is.
+    [[nodiscard]] InicioPagina llena();
+
+private:
+    void empieza();
+    void termina();
+    /// One step on; false when the page is full.
+    [[nodiscard]] bool sigue();
+    [[nodiscard]] bool encabeza();
+    [[nodiscard]] bool abreGrupos();
+    void apuntaGrupos(int primero);
+    [[nodiscard]] bool colocaBanda();
+    [[nodiscard]] bool colocaAlPie(const BandaMedida& banda);
+    [[nodiscard]] bool coloca(const BandaMedida& banda);
+    [[nodiscard]] bool parte(const BandaMedida& banda);
+    [[nodiscard]] bool colocaCaja();
+    void cierraCajas();
+
+    void ponEncabezados();
+    void ponSeccion(const SeccionEnlazada& seccion, qsizetype fila);
+    void pon(const BandaMedida& banda, qsizetype fila, const TramoBanda& tramo);
+    [[nodiscard]] Contexto contexto(qsizetype fila) const { return {fila, m_numeros.pagina, m_numeros.paginas}; }
+    [[nodiscard]] bool cabe(double alto) const;
+    /// The room that a header takes with all that must stand on the same page.
+    [[nodiscard]] double necesario(int nivel, qsizetype fila) const;
+    [[nodiscard]] double necesario(const Paso& paso) const;
+    [[nodiscard]] double altoPrimeraFila(qsizetype fila) const;
+    [[nodiscard]] double altoMinimo(const BandaEnlazada& banda, qsizetype fila) const;
+
+    const InformeEnlazado& m_informe;
+    const Pagina& m_formato;
+    const MedidorBandas& m_medidor;
+    Recorrido m_recorrido;
+    InicioPagina m_lugar;
+    Contexto m_numeros;
+    SalidaHoja m_salida;
+    double m_y = 0;
+    double m_limite = 0;       ///< of the bands; below it stands the page footer
+    double m_inicioCuerpo = 0; ///< below the headings
+    double m_altoPie = 0;
+    qsizetype m_ultimaFila = 0;
+    bool m_vacia = true; ///< no band but headings yet
+    bool m_faltanEncabezados = false;
+    int m_columna = 0; ///< of the next box across
+    double m_altoCajas = 0;
+};
+
+} // namespace kestrane::report
