@@ -1,0 +1,36 @@
+#pragma once
+
+#include "pipeline/forms/aspecto_ventanas.h"
+
+#include <QStringList>
+
+namespace kestrane::prueba {
+
+/// Writes down what is done to a window, in order.
+class AspectoAnotado final : public AspectoVentanas
+{
+public:
+    [[nodiscard]] QPoint esquinaPrincipal() const override { return esquina; }
+    void TraducirForm(QWidget& ventana) override { pasos += QStringLiteral("TraducirForm ") + ventana.objectName(); }
+    void PintarForm(QWidget& ventana) override { pasos += QStringLiteral("PintarForm ") + ventana.objectName(); }
+    [[nodiscard]] QColor DarColorFondo() override
+    {
+        pasos += QStringLiteral("DarColorFondo");
+        return fondo;
+    }
+    void EscalarForm(QWidget& ventana, TamanoVentana destino, TamanoVentana origen) override
+    {
+        pasos += QStringLiteral("EscalarForm %1 de %2x%3 a %4x%5")
+                     .arg(ventana.objectName())
+                     .arg(origen.ancho)
+                     .arg(origen.alto)
+                     .arg(destino.ancho)
+                     .arg(destino.alto);
+    }
+
+    QPoint esquina{100, 200};
+    QColor fondo{Qt::cyan};
+    QStringList pasos;
+};
+
+} // namespace kestrane::prueba
