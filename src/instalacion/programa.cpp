@@ -97,11 +97,12 @@ void construyeVacias(const Obras& obras)
 /// The generator's rows go to both while both are being built.
 void construyeDemostracion(Obra& tienda, Obra& listados, const demo::Parametros& parametros, Avisos& avisos)
 {
+    const auto trasCadaDia = [&] { avisos.avanza(); };
     tienda.construye([&](Carga& deTienda) {
         listados.construye([&](Carga& deListados) {
             Reparto reparto{deTienda, deListados};
             avisos.empieza(u"Generando los días de la tienda"_s);
-            demo::generaTienda(parametros, reparto, [&] { avisos.avanza(); });
+            demo::generaTienda(parametros, reparto, trasCadaDia);
             avisos.empieza(u"Creando los índices"_s);
         });
     });

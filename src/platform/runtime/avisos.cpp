@@ -11,8 +11,8 @@ constexpr qint64 EntreLineas = 200;
 
 } // namespace
 
-Avisos::Avisos(const QString& programa, QIODevice& errores, DestinoErrores destino, Cronometro cronometro)
-    : m_programa{programa}
+Avisos::Avisos(QString programa, QIODevice& errores, DestinoErrores destino, Cronometro cronometro)
+    : m_programa{std::move(programa)}
     , m_errores{errores}
     , m_destino{destino}
     , m_cronometro{std::move(cronometro)}

@@ -20,7 +20,7 @@ public:
     using Cronometro = std::function<qint64()>;
 
     /// `programa` is the name that sentences bear; `errores` outlives the object.
-    Avisos(const QString& programa, QIODevice& errores, DestinoErrores destino, Cronometro cronometro);
+    Avisos(QString programa, QIODevice& errores, DestinoErrores destino, Cronometro cronometro);
     ~Avisos();
     Avisos(const Avisos&) = delete;
     Avisos& operator=(const Avisos&) = delete;
