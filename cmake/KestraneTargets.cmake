@@ -37,11 +37,13 @@ function(kestrane_library name)
 endfunction()
 
 # kestrane_program(NAME SOURCES a.cpp ... LINK dep ...)
+# It stands in bin/, with the report layouts beside it.
 function(kestrane_program name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   target_link_libraries(${name} PRIVATE kestrane_options ${ARG_LINK})
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+  add_dependencies(${name} kestrane_layouts)
 endfunction()
 
 # kestrane_test(NAME SOURCES a_test.cpp ... LINK dep ... [LABELS unit|servers ...] [TIMEOUT seconds]
