@@ -1,5 +1,6 @@
 #include "platform/report/layout/expresion.h"
 
+#include "platform/report/layout/agregados_expresion.h"
 #include "platform/report/layout/formato.h"
 #include "platform/report/layout/lexico_expresion.h"
 #include "platform/report/layout/limites.h"
@@ -14,17 +15,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct NombreAgregado
-{
-    QStringView nombre;
-    FuncionAgregado funcion;
-};
-
-constexpr NombreAgregado Agregados[] = {
-    {u"suma", FuncionAgregado::Suma},     {u"cuenta", FuncionAgregado::Cuenta}, {u"media", FuncionAgregado::Media},
-    {u"minimo", FuncionAgregado::Minimo}, {u"maximo", FuncionAgregado::Maximo}, {u"acumulado", FuncionAgregado::Acumulado},
-};
-
 struct PalabraPropia
 {
     QStringView nombre;
@@ -32,14 +22,6 @@ struct PalabraPropia
 };
 
 constexpr PalabraPropia Palabras[] = {{u"pagina", ClaseNodo::Pagina}, {u"paginas", ClaseNodo::Paginas}, {u"fila", ClaseNodo::Fila}};
-
-template<class Tabla>
-auto busca(const Tabla& tabla, QStringView nombre) -> decltype(&tabla[0])
-{
-    const auto* hallado =
-        std::ranges::find_if(tabla, [&](const auto& entrada) { return entrada.nombre.compare(nombre, Qt::CaseInsensitive) == 0; });
-    return hallado == std::ranges::end(tabla) ? nullptr : hallado;
-}
 
 NodoPtr nodo(NodoExpresion nuevo)
 {
@@ -169,8 +151,9 @@ private:
             return llamada(escrito);
         if (escrito.texto.compare(u"titulo", Qt::CaseInsensitive) == 0)
             return nodo({.literal = m_contexto.titulo});
-        const PalabraPropia* palabra = busca(Palabras, escrito.texto);
-        if (palabra == nullptr)
+        const auto* palabra = std::ranges::find_if(
+            Palabras, [&](const PalabraPropia& p) { return p.nombre.compare(escrito.texto, Qt::CaseInsensitive) == 0; });
+        if (palabra == std::ranges::end(Palabras))
             return nodo({.clase = ClaseNodo::Columna, .nombre = escrito.texto});
         exigeAlcance(escrito);
         return nodo({.clase = palabra->clase});
@@ -185,9 +168,9 @@ private:
 
     NodoPtr llamada(const Simbolo& escrito)
     {
-        if (const NombreAgregado* agregado = busca(Agregados, escrito.texto)) {
+        if (const auto agregado = agregadoDeNombre(escrito.texto)) {
             exigeAlcance(escrito);
-            return llamadaAgregado(agregado->funcion);
+            return llamadaAgregado(*agregado);
         }
         const FuncionExpresion* funcion = funcionDe(escrito.texto);
         if (funcion == nullptr)
@@ -239,37 +222,20 @@ private:
                 agregado.nivel = leeGrupo();
         }
         exige(u")");
-        return nodo({.clase = ClaseNodo::Agregado, .indice = apunta(agregado)});
+        const auto lugar = apuntaAgregado(m_contexto.agregados, agregado);
+        if (!lugar)
+            falla(u"el informe pide demasiadas sumas y cuentas distintas."_s);
+        return nodo({.clase = ClaseNodo::Agregado, .indice = *lugar});
     }
 
     int leeGrupo()
     {
-        const QString pedido = actual().texto;
-        const auto esPedido = [&](const QString& grupo) { return grupo.compare(pedido, Qt::CaseInsensitive) == 0; };
-        const auto grupo = std::ranges::find_if(m_contexto.grupos, esPedido);
-        const bool esInforme = esPedido(u"informe"_s);
-        if (actual().clase != ClaseSimbolo::Nombre || (!esInforme && grupo == m_contexto.grupos.end()))
+        const auto nivel = actual().clase == ClaseSimbolo::Nombre ? nivelDeGrupo(m_contexto.grupos, actual().texto) : std::nullopt;
+        if (!nivel)
             esperaba(m_contexto.grupos.isEmpty() ? u"«informe» (no hay grupos)"_s
                                                  : u"«informe» o un grupo ("_s + m_contexto.grupos.join(u", "_s) + u')');
         consume();
-        return esInforme ? 0 : static_cast<int>(grupo - m_contexto.grupos.begin()) + 1;
-    }
-
-    /// Equal ones are reckoned once.
-    int apunta(const Agregado& nuevo)
-    {
-        auto& todos = m_contexto.agregados;
-        const auto igual = std::ranges::find_if(todos, [&](const Agregado& a) {
-            return a.funcion == nuevo.funcion && a.nivel == nuevo.nivel && a.de.vacia() == nuevo.de.vacia() &&
-                   (a.de.vacia() || iguales(a.de.raiz(), nuevo.de.raiz()));
-        });
-        const auto lugar = static_cast<int>(igual - todos.begin());
-        if (igual != todos.end())
-            return lugar;
-        if (todos.size() >= limites::Agregados)
-            falla(u"el informe pide demasiadas sumas y cuentas distintas."_s);
-        todos.push_back(nuevo);
-        return lugar;
+        return *nivel;
     }
 
     const QString& m_texto;

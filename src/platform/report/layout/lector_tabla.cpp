@@ -1,5 +1,6 @@
 #include "platform/report/layout/lector_tabla.h"
 
+#include "platform/report/layout/agregados_expresion.h"
 #include "platform/report/layout/columna_tabla.h"
 #include "platform/report/layout/error_layout.h"
 #include "platform/report/layout/lector_elementos.h"
@@ -14,17 +15,6 @@ namespace kestrane::report {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-struct NombreTotal
-{
-    QStringView nombre;
-    FuncionAgregado funcion;
-};
-
-constexpr NombreTotal Totales[] = {
-    {u"suma", FuncionAgregado::Suma},     {u"cuenta", FuncionAgregado::Cuenta}, {u"media", FuncionAgregado::Media},
-    {u"minimo", FuncionAgregado::Minimo}, {u"maximo", FuncionAgregado::Maximo},
-};
 
 const QString FilaPar = u"fila - 2 * entero(fila / 2) = 0"_s;
 
@@ -211,8 +201,7 @@ ColumnaDatos columnaDeDatos(const ElementoXml& xml, const AmbitoSeccion& ambito)
     columna.horizontal = tabla.alineacion(Estilo{});
     columna.ancho = medidaDe(xml, u"ancho", columna.ancho);
     columna.conTotal = tabla.tieneTotal();
-    const auto* total = std::ranges::find(Totales, textoDe(xml, u"total"), &NombreTotal::nombre);
-    columna.total = total == std::ranges::end(Totales) ? FuncionAgregado::Suma : total->funcion;
+    columna.total = agregadoDeNombre(textoDe(xml, u"total")).value_or(FuncionAgregado::Suma);
     return columna;
 }
 
