@@ -20,7 +20,7 @@ const QString FilaPar = u"fila - 2 * entero(fila / 2) = 0"_s;
 
 Estilo sinFondo(Estilo estilo)
 {
-    estilo.fondo = {};
+    estilo.fondo = QColor{}; // Braces alone would be the colour number 0, which is white.
     return estilo;
 }
 

@@ -86,6 +86,18 @@ TEST(LectorTabla, LasFilasParesConSuFondo)
     EXPECT_TRUE(marcos[0].hastaElFondo);
     EXPECT_EQ(valorDe(marcos[0].mostrar), Valor{false}); // Row 7.
     EXPECT_TRUE(todos<Texto>(layout.detalle[0])[0].variantes.empty());
+    EXPECT_FALSE(todos<Texto>(layout.detalle[0])[0].estilo.fondo.isValid());
+}
+
+TEST(LectorTabla, ElFondoDeLaCabeceraVaDetrasDeTodaLaFila)
+{
+    const Layout layout = layoutDe(u"<estilo nombre=\"cabecera\" fondo=\"#e0e0e0\"/><tabla>"_s + DosColumnas + u"</tabla>"_s);
+    const auto marcos = todos<Marco>(layout.cabeceraPagina[0]);
+    ASSERT_EQ(marcos.size(), 1U);
+    EXPECT_EQ(marcos[0].relleno, QColor(0xe0, 0xe0, 0xe0));
+    EXPECT_EQ(marcos[0].grosor, 0);
+    for (const Texto& titulo : todos<Texto>(layout.cabeceraPagina[0]))
+        EXPECT_FALSE(titulo.estilo.fondo.isValid());
 }
 
 TEST(LectorTabla, LasVariantesDeUnaColumna)
