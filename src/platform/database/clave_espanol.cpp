@@ -2,6 +2,10 @@
 
 #include "platform/database/pesos_espanol.h"
 
+#include <QVarLengthArray>
+
+#include <array>
+
 namespace kestrane::database::espanol {
 
 namespace {
@@ -26,7 +30,9 @@ char32_t tomaCaracter(QStringView texto, qsizetype& i)
     return c.unicode();
 }
 
-void anadeLetra(QByteArray& destino, quint32 letra)
+using Bytes = QVarLengthArray<char, 64>;
+
+void anadeLetra(Bytes& destino, quint32 letra)
 {
     destino.append(static_cast<char>(letra / Hueco));
     const quint32 resto = letra % Hueco;
@@ -37,7 +43,7 @@ void anadeLetra(QByteArray& destino, quint32 letra)
         destino.append(static_cast<char>(resto >> desplaza));
 }
 
-void anade(QByteArray& letras, QByteArray& acentos, const Pesos& pesos)
+void anade(Bytes& letras, Bytes& acentos, const Pesos& pesos)
 {
     for (size_t i = 0; i < static_cast<size_t>(pesos.cuantos); ++i) {
         if (pesos.peso[i].letra != 0)
@@ -47,19 +53,53 @@ void anade(QByteArray& letras, QByteArray& acentos, const Pesos& pesos)
     }
 }
 
+/// What a character of one letter with at most one accent adds; a letter of 0 is none of them.
+struct Sencillo
+{
+    char letra = 0;
+    char acento = 0;
+    char marca = 0; ///< a second accent, 0 for none
+};
+using Sencillos = std::array<Sencillo, LimiteSimples>;
+
+Sencillos calculaSencillos()
+{
+    Sencillos sencillos;
+    for (char32_t c = 0; c < LimiteSimples; ++c) {
+        Bytes letras;
+        Bytes acentos;
+        anade(letras, acentos, pesosDe(c));
+        if (letras.size() == 1 && (acentos.size() == 1 || acentos.size() == 2))
+            sencillos[c] = {letras[0], acentos[0], acentos.size() == 2 ? acentos[1] : Fin};
+    }
+    return sencillos;
+}
+
 } // namespace
 
 void anadeClave(QByteArray& destino, QStringView texto)
 {
-    QByteArray acentos;
-    for (qsizetype i = 0; i < texto.size();)
-        anade(destino, acentos, pesosDe(tomaCaracter(texto, i)));
-    destino.append(Fin);
-    // Texts without accents, which are most, end here: plain letters behind the last accent say nothing that the letters did not.
-    while (acentos.endsWith(static_cast<char>(SinAcento)))
-        acentos.chop(1);
-    destino.append(acentos);
-    destino.append(Fin);
+    static const Sencillos sencillos = calculaSencillos();
+    Bytes letras;
+    Bytes acentos;
+    for (qsizetype i = 0; i < texto.size();) {
+        const char32_t c = tomaCaracter(texto, i);
+        const Sencillo sencillo = c < LimiteSimples ? sencillos[c] : Sencillo{};
+        if (sencillo.letra == 0) {
+            anade(letras, acentos, pesosDe(c));
+            continue;
+        }
+        letras.append(sencillo.letra);
+        acentos.append(sencillo.acento);
+        if (sencillo.marca != 0)
+            acentos.append(sencillo.marca);
+    }
+    // Plain letters behind the last accent say nothing that the letters did not.
+    while (!acentos.isEmpty() && acentos.last() == static_cast<char>(SinAcento))
+        acentos.removeLast();
+    letras.append(Fin);
+    acentos.append(Fin);
+    destino.append(letras.constData(), letras.size()).append(acentos.constData(), acentos.size());
 }
 
 } // namespace kestrane::database::espanol
