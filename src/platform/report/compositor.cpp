@@ -41,7 +41,7 @@ void Compositor::pon(const Obra& obra, const Texto& texto, const ElementoEnlazad
     }
     const int estilo = estiloDe(elemento, obra.ambito, m_regional);
     ponFondo(obra, texto, m_estilos.estilo(estilo).fondo);
-    if (!obra.tramo.tiene(texto.caja.top()))
+    if (!obra.tramo.empiezaAqui(texto.caja.top()))
         return;
     const QString escrito = escribeValor(elemento.valor.valor(obra.ambito, m_regional), texto.formato, m_regional);
     if (escrito.isEmpty())
@@ -71,7 +71,7 @@ void Compositor::ponCrecido(const Obra& obra, const Texto& texto, const TextoMed
     const QRectF caja{obra.tramo.lugar.x() + texto.caja.left(), 0, texto.caja.width(), 0};
     double arriba = medido.arriba;
     for (const Renglon& renglon : medido.renglones) {
-        if (obra.tramo.tiene(arriba + Holgura) && !renglon.texto.isEmpty())
+        if (obra.tramo.terminaAqui(arriba + medido.altoRenglon) && !renglon.texto.isEmpty())
             ponRenglon(obra.pagina, renglon, caja, obra.tramo.enPagina(arriba), m_estilos.estilo(medido.estilo).horizontal,
                        medido.estilo);
         arriba += medido.altoRenglon;
@@ -98,7 +98,7 @@ void Compositor::pon(const Obra& obra, const Linea& linea, const ElementoEnlazad
 {
     // A level line stands where its top is; one that goes down is cut with its band.
     const bool baja = linea.hastaElFondo || linea.caja.height() > 0;
-    if (!baja && !obra.tramo.tiene(linea.caja.top()))
+    if (!baja && !obra.tramo.empiezaAqui(linea.caja.top()))
         return;
     QRectF caja = enPagina(obra, linea.caja);
     if (baja)
@@ -117,7 +117,7 @@ void Compositor::pon(const Obra& obra, const Marco& marco, const ElementoEnlazad
 void Compositor::pon(const Obra& obra, const Imagen& imagen, const ElementoEnlazado& elemento, size_t)
 {
     const QString fichero = textoDe(obra, elemento);
-    if (fichero.isEmpty() || !obra.tramo.tiene(imagen.caja.top()))
+    if (fichero.isEmpty() || !obra.tramo.empiezaAqui(imagen.caja.top()))
         return;
     const QRectF caja = enPagina(obra, imagen.caja);
     if (const QImage leida = m_imagenes.imagen(fichero); !leida.isNull()) {
@@ -132,7 +132,7 @@ void Compositor::pon(const Obra& obra, const Imagen& imagen, const ElementoEnlaz
 void Compositor::pon(const Obra& obra, const Codigo39& codigo, const ElementoEnlazado& elemento, size_t)
 {
     const QString valor = textoDe(obra, elemento).trimmed();
-    if (valor.isEmpty() || !obra.tramo.tiene(codigo.caja.top()))
+    if (valor.isEmpty() || !obra.tramo.empiezaAqui(codigo.caja.top()))
         return;
     const QRectF caja = enPagina(obra, codigo.caja);
     const int estilo = elemento.estilos.front();
@@ -166,16 +166,13 @@ bool Compositor::ponConLetra(const Obra& obra, const QString& valor, const QRect
 void Compositor::pon(const Obra& obra, const Subinforme& subinforme, const ElementoEnlazado& elemento, size_t)
 {
     const InformeEnlazado& informe = *elemento.subinforme;
-    const double origen = subinforme.caja.top();
-    const double desde = obra.tramo.desde - origen;
-    const double hasta = obra.tramo.hasta - origen;
-    m_medidor.recorreSubinforme(informe, desde, hasta, [&](const BandaMedida& banda, qsizetype fila, double arriba) {
+    const TramoBanda tramo = obra.tramo.dentro(subinforme.caja.left(), subinforme.caja.top());
+    m_medidor.recorreSubinforme(informe, tramo.hecho, tramo.hasta, [&](const BandaMedida& banda, qsizetype fila, double arriba) {
         const Contexto contexto{fila, obra.contexto.pagina, obra.contexto.paginas};
-        const double primero = std::max(0.0, desde - arriba);
-        // What lies on the lower edge of a band that ends here belongs to it.
-        const double fin = arriba + banda.alto <= hasta + Holgura ? TramoBanda::SinFin : hasta - arriba;
-        const QPointF lugar{obra.tramo.lugar.x() + subinforme.caja.left(), obra.tramo.enPagina(origen + arriba + primero)};
-        compone(informe, banda, contexto, {lugar, primero, fin}, obra.pagina);
+        if (banda.seParteEnSubinforme())
+            compone(informe, banda, contexto, tramo.dentro(0, arriba), obra.pagina);
+        else if (tramo.terminaAqui(arriba + banda.alto))
+            compone(informe, banda, contexto, {{tramo.lugar.x(), tramo.enPagina(arriba)}}, obra.pagina);
     });
 }
 

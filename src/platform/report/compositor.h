@@ -6,17 +6,25 @@
 
 namespace kestrane::report {
 
-/// The stretch of a band that stands on a page: all of it, or what lies between two cuts.
+/// The stretch of a band that stands on a page: all of it, or what was not placed on the pages before and ends above a cut.
 struct TramoBanda
 {
     static constexpr double SinFin = 1e9;
+    static constexpr double Holgura = 1e-6;
 
-    QPointF lugar;    ///< on the page, of the band's left edge at `desde`
-    double desde = 0; ///< from the band's top
-    double hasta = SinFin;
+    QPointF lugar;         ///< on the page, of the band's left edge at `desde`
+    double desde = 0;      ///< from the band's top, what stands at `lugar`
+    double hecho = 0;      ///< what ends above it stands on the pages before
+    double hasta = SinFin; ///< what ends below it stands on the pages behind
 
-    [[nodiscard]] bool tiene(double arriba) const { return arriba >= desde && arriba < hasta; }
+    [[nodiscard]] bool empiezaAqui(double arriba) const { return arriba >= hecho && arriba < hasta; }
+    [[nodiscard]] bool terminaAqui(double abajo) const { return abajo > hecho + Holgura && abajo <= hasta + Holgura; }
     [[nodiscard]] double enPagina(double y) const { return lugar.y() + y - desde; }
+    /// The same stretch as what stands within the band, that much to the right and below, sees it.
+    [[nodiscard]] TramoBanda dentro(double x, double y) const
+    {
+        return {{lugar.x() + x, lugar.y()}, desde - y, hecho - y, hasta - y};
+    }
 };
 
 /// Turns bands with their rows into what is painted.

@@ -124,7 +124,7 @@ bool Hoja::colocaBanda()
         m_recorrido.avanza(m_lugar.paso);
         return true;
     }
-    const bool entera = m_lugar.desde == 0;
+    const bool entera = m_lugar.deBandaEntera();
     if (entera && banda.banda->saltoAntes && !m_vacia)
         return false;
     if (entera && banda.banda->alPieDePagina && !m_formato.esRollo())
@@ -158,32 +158,39 @@ bool Hoja::coloca(const BandaMedida& banda)
         if (banda.esDivisible())
             return parte(banda);
     }
-    pon(banda, m_lugar.paso.fila, {{m_formato.margenes.left(), m_y}, m_lugar.desde});
+    pon(banda, m_lugar.paso.fila, {{m_formato.margenes.left(), m_y}, m_lugar.desde, m_lugar.hecho});
     m_y += falta;
-    m_lugar.desde = 0;
-    m_recorrido.avanza(m_lugar.paso);
+    aLaSiguiente();
     return true;
 }
 
 /// Puts what fits of a band that goes on on the next page.
 bool Hoja::parte(const BandaMedida& banda)
 {
-    const double desde = m_lugar.desde;
     const double resto = m_limite - m_y;
-    double hasta = m_medidor.corte(banda, desde, desde + std::max(resto, 0.0));
-    if (hasta <= desde + Holgura) {
+    double hasta = m_lugar.desde + std::max(resto, 0.0);
+    CorteBanda corte = m_medidor.corta(banda, m_lugar.hecho, hasta);
+    if (!corte.cabeAlgo) {
         if (!m_vacia)
             return false;
-        hasta = desde + std::max(resto, AvanceMinimo);
+        hasta = std::max({hasta, m_lugar.desde + AvanceMinimo, std::min(corte.primero, banda.alto)});
+        corte = m_medidor.corta(banda, m_lugar.hecho, hasta);
     }
-    pon(banda, m_lugar.paso.fila, {{m_formato.margenes.left(), m_y}, desde, hasta});
-    m_y += hasta - desde;
-    m_lugar.desde = hasta;
-    if (hasta < banda.alto)
+    pon(banda, m_lugar.paso.fila, {{m_formato.margenes.left(), m_y}, m_lugar.desde, m_lugar.hecho, corte.hasta});
+    m_y += corte.hasta - m_lugar.desde;
+    m_lugar.desde = corte.siguiente;
+    m_lugar.hecho = corte.hasta;
+    if (corte.siguiente < banda.alto)
         return false;
-    m_lugar.desde = 0;
-    m_recorrido.avanza(m_lugar.paso);
+    aLaSiguiente();
     return true;
+}
+
+void Hoja::aLaSiguiente()
+{
+    m_lugar.desde = 0;
+    m_lugar.hecho = 0;
+    m_recorrido.avanza(m_lugar.paso);
 }
 
 /// The details of a row as one box beside others.

@@ -9,7 +9,10 @@ namespace kestrane::report {
 struct InicioPagina
 {
     Paso paso;
-    double desde = 0; ///< of a band that was cut, how much of it stands on the pages before
+    double desde = 0; ///< of a band that was cut, what this page begins with, from the band's top
+    double hecho = 0; ///< and what ends above stands on the pages before
+
+    [[nodiscard]] bool deBandaEntera() const { return hecho == 0; }
 };
 
 /// What comes of a page besides its end. Without a compositor nothing is painted.
@@ -45,6 +48,7 @@ private:
     [[nodiscard]] bool colocaAlPie(const BandaMedida& banda);
     [[nodiscard]] bool coloca(const BandaMedida& banda);
     [[nodiscard]] bool parte(const BandaMedida& banda);
+    void aLaSiguiente();
     [[nodiscard]] bool colocaCaja();
     void cierraCajas();
 

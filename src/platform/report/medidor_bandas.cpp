@@ -3,7 +3,6 @@
 #include "platform/runtime/conversiones.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace kestrane::report {
 
@@ -12,15 +11,26 @@ namespace {
 /// Bands of a sub-report between two places that are remembered.
 constexpr int PasoMarcas = 16;
 
-/// Where the first of `alto` millimetres of lines stands. A box for one line that grows keeps the blank above its first line, so
-/// that it stands beside the texts that did not grow.
-double arribaDeRenglones(const Texto& texto, double alto, double altoRenglon)
+/// A box for one line: what grows stands below it, so that the first line stays beside the texts that do not grow.
+bool esDeUnRenglon(const Texto& texto, double altoRenglon)
 {
-    const bool deUnRenglon = texto.caja.height() < 2 * altoRenglon;
-    const double libre = texto.caja.height() - (deUnRenglon ? altoRenglon : alto);
-    if (texto.estilo.vertical == Vertical::Arriba || libre <= 0)
+    return texto.caja.height() < 2 * altoRenglon;
+}
+
+double altoDeCaja(const Texto& texto, const TextoMedido& medido)
+{
+    if (medido.renglones.size() < 2)
+        return texto.caja.height();
+    const double deMas = medido.alto() - medido.altoRenglon;
+    return esDeUnRenglon(texto, medido.altoRenglon) ? texto.caja.height() + deMas : std::max(texto.caja.height(), medido.alto());
+}
+
+double arribaDeRenglones(const Texto& texto, Vertical vertical, const TextoMedido& medido)
+{
+    const double libre = altoDeCaja(texto, medido) - medido.alto();
+    if (vertical == Vertical::Arriba)
         return texto.caja.top();
-    return texto.caja.top() + (texto.estilo.vertical == Vertical::Centro ? libre / 2 : libre);
+    return texto.caja.top() + (vertical == Vertical::Centro ? libre / 2 : libre);
 }
 
 } // namespace
@@ -70,12 +80,10 @@ void MedidorBandas::mideTexto(const InformeEnlazado& informe, const ElementoEnla
     const QString escrito = escribeValor(elemento.valor.valor(ambito, m_regional), texto->formato, m_regional);
     destino.renglones = parteEnRenglones(letras, escrito, texto->caja.width());
     destino.altoRenglon = letras.altoRenglon();
-    const double alto = static_cast<double>(destino.renglones.size()) * destino.altoRenglon;
-    destino.arriba = arribaDeRenglones(*texto, alto, destino.altoRenglon);
-    // The blank below the box stays below the text.
+    destino.arriba = arribaDeRenglones(*texto, m_estilos.estilo(destino.estilo).vertical, destino);
+    // What stands below the box goes down with its bottom.
     const double margen = std::max(0.0, medida.banda->banda->alto - texto->caja.bottom());
-    const double relleno = destino.renglones.size() > 1 ? destino.arriba - texto->caja.top() : 0;
-    medida.alto = std::max(medida.alto, destino.arriba + alto + relleno + margen);
+    medida.alto = std::max(medida.alto, texto->caja.top() + altoDeCaja(*texto, destino) + margen);
 }
 
 void MedidorBandas::mideSubinforme(const ElementoEnlazado& elemento, BandaMedida& medida) const
@@ -94,46 +102,50 @@ double MedidorBandas::alto(const InformeEnlazado& informe, const SeccionEnlazada
     return suma;
 }
 
-double MedidorBandas::corte(const BandaMedida& banda, double desde, double hasta) const
+CorteBanda MedidorBandas::corta(const BandaMedida& banda, double hecho, double hasta) const
 {
-    // Going up out of one line may lead into another's middle: until nothing moves any more.
-    double corte = hasta;
-    for (double anterior = corte + 1; corte > desde && corte < anterior - Holgura;) {
-        anterior = corte;
-        corte = corteDeSubinformes(banda, corteDeTextos(banda, corte));
-    }
-    return std::max(corte, desde);
-}
-
-double MedidorBandas::corteDeTextos(const BandaMedida& banda, double hasta) const
-{
-    double corte = hasta;
-    for (const TextoMedido& texto : banda.textos) {
-        if (texto.renglones.empty())
-            continue;
-        const double enteros = std::floor((hasta - texto.arriba) / texto.altoRenglon + Holgura);
-        const bool dentro = enteros >= 0 && enteros < static_cast<double>(texto.renglones.size());
-        if (dentro)
-            corte = std::min(corte, std::min(hasta, texto.arriba + enteros * texto.altoRenglon));
-    }
+    constexpr double Lejos = 1e12;
+    double ultimo = hecho;
+    CorteBanda corte{false, hasta, Lejos, Lejos};
+    recorreUnidades(banda, hecho, hasta, 0, [&](double arriba, double abajo) {
+        corte.primero = std::min(corte.primero, abajo);
+        if (abajo > hasta + Holgura) {
+            corte.siguiente = std::min(corte.siguiente, arriba);
+            return;
+        }
+        corte.cabeAlgo = true;
+        ultimo = std::max(ultimo, abajo);
+    });
+    corte.cabeAlgo = corte.cabeAlgo || (corte.primero == Lejos && hasta > hecho); // nothing but blank is there
+    if (corte.siguiente == Lejos)
+        corte.siguiente = hasta;
+    else
+        corte.hasta = std::max(corte.siguiente, ultimo);
     return corte;
 }
 
-double MedidorBandas::corteDeSubinformes(const BandaMedida& banda, double hasta) const
+/// Calls `visita` for the lines and bands of sub-reports that end below `hecho` and begin above `hasta`.
+void MedidorBandas::recorreUnidades(const BandaMedida& banda, double hecho, double hasta, double origen, const Unidad& visita) const
 {
-    double corte = hasta;
+    for (const TextoMedido& texto : banda.textos) {
+        double arriba = origen + texto.arriba;
+        for (size_t i = 0; i < texto.renglones.size() && arriba < hasta; ++i, arriba += texto.altoRenglon) {
+            if (arriba + texto.altoRenglon > hecho + Holgura)
+                visita(arriba, arriba + texto.altoRenglon);
+        }
+    }
     for (size_t i = 0; i < banda.visibles.size(); ++i) {
         const ElementoEnlazado& elemento = banda.banda->elementos[i];
         if (!elemento.subinforme || !banda.visibles[i])
             continue;
-        const double origen = std::get<Subinforme>(*elemento.elemento).caja.top();
-        const double dentro = hasta - origen;
-        recorreSubinforme(*elemento.subinforme, dentro - Holgura, dentro, [&](const BandaMedida& una, qsizetype, double arriba) {
-            if (arriba + una.alto > dentro + Holgura)
-                corte = std::min(corte, arriba > 0 ? origen + arriba : 0); // no heading above it stays behind alone
+        const double suyo = origen + std::get<Subinforme>(*elemento.elemento).caja.top();
+        recorreSubinforme(*elemento.subinforme, hecho - suyo, hasta - suyo, [&](const BandaMedida& una, qsizetype, double arriba) {
+            if (una.seParteEnSubinforme())
+                recorreUnidades(una, hecho, hasta, suyo + arriba, visita);
+            else
+                visita(suyo + arriba, suyo + arriba + una.alto);
         });
     }
-    return corte;
 }
 
 QString MedidorBandas::texto(const ExpresionEnlazada& expresion, const AmbitoExpresion& ambito) const

@@ -5,6 +5,7 @@
 #include "platform/report/renglones.h"
 
 #include <algorithm>
+#include <functional>
 #include <optional>
 #include <unordered_map>
 
@@ -17,6 +18,8 @@ struct TextoMedido
     int estilo = 0;
     double arriba = 0; ///< of the first line
     double altoRenglon = 0;
+
+    [[nodiscard]] double alto() const { return static_cast<double>(renglones.size()) * altoRenglon; }
 };
 
 /// A band for one row: how high it is there. Those of fixed height have no more than that.
@@ -31,6 +34,19 @@ struct BandaMedida
     [[nodiscard]] bool esDivisible() const { return !banda->deAltoFijo; }
     /// A sub-report alone flows on wherever the page ends; anything else first tries a page of its own.
     [[nodiscard]] bool fluye() const { return banda->subinformes == 1; }
+    /// Within a sub-report bands stay whole, but for texts that no page may hold.
+    [[nodiscard]] bool seParteEnSubinforme() const { return esDivisible() && alto > AltoDeUnaPieza; }
+
+    static constexpr double AltoDeUnaPieza = 60;
+};
+
+/// Where a band that goes on on the next page is cut. Its lines need not end at the same height.
+struct CorteBanda
+{
+    bool cabeAlgo = false; ///< false: not even the first line fits
+    double hasta = 0;      ///< lines that end above it stand on this page
+    double siguiente = 0;  ///< the top of the first one that does not
+    double primero = 0;    ///< where the first line ends
 };
 
 /// The bands of a sub-report one below the other.
@@ -57,9 +73,8 @@ public:
                                                   const Contexto& contexto) const;
     /// All bands of a section that show for this row.
     [[nodiscard]] double alto(const InformeEnlazado& informe, const SeccionEnlazada& seccion, const Contexto& contexto) const;
-    /// The lowest place between `desde` and `hasta` where neither a line nor a sub-report's band is cut; `desde` when there is
-    /// none.
-    [[nodiscard]] double corte(const BandaMedida& banda, double desde, double hasta) const;
+    /// Cuts a band of which all lines that end above `hecho` are placed, so that none ends below `hasta`.
+    [[nodiscard]] CorteBanda corta(const BandaMedida& banda, double hecho, double hasta) const;
 
     /// A value as text that stands for itself.
     [[nodiscard]] QString texto(const ExpresionEnlazada& expresion, const AmbitoExpresion& ambito) const;
@@ -73,13 +88,13 @@ public:
 private:
     /// Sums of heights are not exact.
     static constexpr double Holgura = 1e-6;
+    using Unidad = std::function<void(double arriba, double abajo)>;
+
+    void recorreUnidades(const BandaMedida& banda, double hecho, double hasta, double origen, const Unidad& visita) const;
 
     void mideTexto(const InformeEnlazado& informe, const ElementoEnlazado& elemento, const Contexto& contexto, BandaMedida& medida,
                    TextoMedido& destino) const;
     void mideSubinforme(const ElementoEnlazado& elemento, BandaMedida& medida) const;
-    [[nodiscard]] double corteDeTextos(const BandaMedida& banda, double hasta) const;
-    [[nodiscard]] double corteDeSubinformes(const BandaMedida& banda, double hasta) const;
-
     const TablaEstilos& m_estilos;
     const ConfiguracionRegional& m_regional;
     mutable std::unordered_map<const InformeEnlazado*, SubinformeMedido> m_subinformes;

@@ -1,6 +1,8 @@
 #include "platform/report/informe_de_prueba.h"
 
-#include "platform/report/medida_estilo.h"
+#include "platform/report/filas_agrupadas.h"
+
+#include <cmath>
 
 namespace kestrane::prueba {
 
@@ -112,6 +114,35 @@ CopiaFilas copiaNumerada(int cuantas)
     for (int i = 1; i <= cuantas; ++i)
         filas.push_back({i});
     return copiaDe({u"n"_s}, filas);
+}
+
+PaginasDePrueba::PaginasDePrueba(const Layout& layout, const CopiaFilas& filas, const QHash<QString, CopiaFilas>& deSubinformes)
+    : m_maquetado{layout,
+                  [&](const Layout& parte) {
+                      const bool esPrincipal = !deSubinformes.contains(parte.sentencia);
+                      return std::make_unique<FilasAgrupadas>(parte, esPrincipal ? filas : deSubinformes[parte.sentencia],
+                                                              m_regional);
+                  },
+                  m_regional}
+{
+}
+
+std::vector<PaginaCompuesta> PaginasDePrueba::paginas()
+{
+    while (!m_maquetado.completo())
+        m_maquetado.avanza();
+    std::vector<PaginaCompuesta> paginas;
+    for (int i = 0; i < m_maquetado.paginas(); ++i)
+        paginas.push_back(m_maquetado.pagina(i));
+    return paginas;
+}
+
+std::vector<QStringList> PaginasDePrueba::textos()
+{
+    std::vector<QStringList> textos;
+    for (const PaginaCompuesta& pagina : paginas())
+        textos.push_back(textosConAltura(pagina));
+    return textos;
 }
 
 QStringList textosDe(const PaginaCompuesta& pagina)

@@ -1,10 +1,8 @@
 #pragma once
 
-#include "platform/report/copia_filas.h"
-#include "platform/report/layout/layout.h"
-#include "platform/report/pagina_compuesta.h"
+#include "platform/report/maquetado.h"
 
-#include <initializer_list>
+#include <QHash>
 
 namespace kestrane::prueba {
 
@@ -34,6 +32,24 @@ public:
 [[nodiscard]] report::CopiaFilas copiaDe(const QStringList& columnas, const std::vector<std::vector<Valor>>& filas);
 /// `cuantas` rows with a column "n" that counts from 1.
 [[nodiscard]] report::CopiaFilas copiaNumerada(int cuantas);
+
+/// A layout's pages over rows made in code; sub-reports have the rows of the copy that their statement names.
+class PaginasDePrueba
+{
+public:
+    explicit PaginasDePrueba(const report::Layout& layout, const report::CopiaFilas& filas,
+                             const QHash<QString, report::CopiaFilas>& deSubinformes = {});
+
+    [[nodiscard]] report::Maquetado& maquetado() { return m_maquetado; }
+    /// Lays out all pages and composes them.
+    [[nodiscard]] std::vector<report::PaginaCompuesta> paginas();
+    /// "text@y" of each, headings included.
+    [[nodiscard]] std::vector<QStringList> textos();
+
+private:
+    ConfiguracionRegional m_regional = ConfiguracionRegional::espania();
+    report::Maquetado m_maquetado;
+};
 
 /// The texts of a page in the order of painting.
 [[nodiscard]] QStringList textosDe(const report::PaginaCompuesta& pagina);

@@ -1,0 +1,207 @@
+// Pages with bands that grow and with sub-reports.
+
+#include "platform/report/informe_de_prueba.h"
+
+#include <gmock/gmock.h>
+
+#include <cmath>
+
+namespace kestrane::report {
+namespace {
+
+using namespace Qt::StringLiterals;
+using prueba::copiaDe;
+using prueba::copiaNumerada;
+using prueba::LayoutDePrueba;
+using prueba::PaginasDePrueba;
+using testing::ElementsAre;
+
+/// 10 points: a line of DejaVu Sans is 1.164 times as high.
+constexpr double Renglon = 10 * 25.4 / 72 * 2384 / 2048;
+
+/// Texts whose lines are "linea 1" to "linea N", one row for each number.
+CopiaFilas parrafos(std::initializer_list<int> renglones)
+{
+    std::vector<std::vector<Valor>> filas;
+    for (const int cuantos : renglones) {
+        QStringList lineas;
+        for (int i = 1; i <= cuantos; ++i)
+            lineas << u"linea %1"_s.arg(i);
+        filas.push_back({lineas.join(u'\n'), cuantos});
+    }
+    return copiaDe({u"texto"_s, u"n"_s}, filas);
+}
+
+LayoutDePrueba conTextos(double alto)
+{
+    LayoutDePrueba prueba;
+    prueba.altoUtil(alto);
+    Banda banda;
+    banda.alto = 5;
+    banda.elementos.emplace_back(prueba.crece(u"texto"_s, 100));
+    prueba.layout.detalle.push_back(banda);
+    return prueba;
+}
+
+/// How many texts each page has.
+std::vector<qsizetype> cuentas(PaginasDePrueba paginas)
+{
+    std::vector<qsizetype> cuentas;
+    for (const QStringList& textos : paginas.textos())
+        cuentas.push_back(textos.size());
+    return cuentas;
+}
+
+TEST(HojaCrece, ABandIsAsHighAsItsText)
+{
+    LayoutDePrueba prueba = conTextos(200);
+    prueba.layout.pieInforme.push_back(prueba.banda(5, u"'fin'"_s));
+    const QStringList textos = PaginasDePrueba{prueba.layout, parrafos({1, 3})}.textos().front();
+    // One line leaves its band at 5 mm; two more make it higher by two lines.
+    EXPECT_EQ(textos[1], u"linea 1@15"_s);
+    EXPECT_EQ(textos.last(), u"fin@%1"_s.arg(std::round((15 + 5 + 2 * Renglon) * 100) / 100));
+}
+
+TEST(HojaCrece, ATextThatFitsOnAPageIsNotBroken)
+{
+    // Ten lines are 41 mm: after the first row of five lines they go to a page of their own.
+    EXPECT_THAT(cuentas(PaginasDePrueba{conTextos(50).layout, parrafos({5, 10})}), ElementsAre(5, 10));
+}
+
+TEST(HojaCrece, ATextHigherThanAPageGoesOnOnTheNext)
+{
+    // 50 mm hold twelve lines of 4.107 mm.
+    EXPECT_THAT(cuentas(PaginasDePrueba{conTextos(50).layout, parrafos({30})}), ElementsAre(12, 12, 6));
+    const auto textos = PaginasDePrueba{conTextos(50).layout, parrafos({30})}.textos();
+    EXPECT_EQ(textos[0].first(), u"linea 1@10"_s);
+    EXPECT_EQ(textos[1].first(), u"linea 13@10"_s);
+    EXPECT_EQ(textos[2].last(), u"linea 30@%1"_s.arg(std::round((10 + 5 * Renglon) * 100) / 100));
+}
+
+TEST(HojaCrece, TextsSideBySideAreCutBetweenLinesOfBoth)
+{
+    LayoutDePrueba prueba = conTextos(50);
+    Texto otro = prueba.crece(u"texto"_s, 50);
+    otro.caja.moveLeft(110);
+    otro.caja.moveTop(2);
+    prueba.layout.detalle.front().elementos.emplace_back(otro);
+    // The second begins 2 mm lower: 48 mm hold eleven of its lines.
+    const auto paginas = PaginasDePrueba{prueba.layout, parrafos({20})}.textos();
+    ASSERT_EQ(paginas.size(), 2U);
+    qsizetype todos = 0;
+    for (const QStringList& textos : paginas)
+        todos += textos.size();
+    EXPECT_EQ(todos, 40);
+    EXPECT_EQ(paginas[0].filter(u"linea 12@"_s).size(), 1);
+    EXPECT_EQ(paginas[0].filter(u"linea 11@"_s).size(), 2);
+    EXPECT_EQ(paginas[1].filter(u"linea 12@10"_s).size(), 1); // the one that is left stands at the top
+}
+
+TEST(HojaCrece, PaperLowerThanALineComesToAnEnd)
+{
+    const auto paginas = PaginasDePrueba{conTextos(2).layout, parrafos({10})}.textos();
+    qsizetype todos = 0;
+    for (const QStringList& textos : paginas)
+        todos += textos.size();
+    EXPECT_EQ(todos, 10);
+}
+
+TEST(HojaCrece, TenThousandCharactersComeToAnEnd)
+{
+    const CopiaFilas copia = copiaDe({u"texto"_s}, {{QString{10'000, u'x'}}, {QString{u"😀"_s}.repeated(2'000)}});
+    LayoutDePrueba prueba = conTextos(200);
+    QString junto;
+    for (const auto& pagina : PaginasDePrueba{prueba.layout, copia}.paginas())
+        junto += prueba::textosDe(pagina).join(QString{});
+    EXPECT_EQ(junto.count(u'x'), 10'000);
+    EXPECT_EQ(junto.count(u"😀"_s), 2'000);
+}
+
+TEST(HojaCrece, FramesReachDownWithTheirBandOnEachPage)
+{
+    LayoutDePrueba prueba = conTextos(50);
+    Marco marco;
+    marco.caja = {0, 0, 190, 5};
+    marco.hastaElFondo = true;
+    prueba.layout.detalle.front().elementos.emplace_back(marco);
+    PaginasDePrueba hojas{prueba.layout, parrafos({30})};
+    std::vector<double> altos;
+    for (const PaginaCompuesta& pagina : hojas.paginas()) {
+        for (const Primitiva& primitiva : pagina.primitivas) {
+            if (const auto* const caja = std::get_if<MarcoCompuesto>(&primitiva))
+                altos.push_back(caja->caja.height());
+        }
+    }
+    EXPECT_THAT(altos, ElementsAre(testing::DoubleNear(12 * Renglon, 0.01), testing::DoubleNear(12 * Renglon, 0.01),
+                                   testing::DoubleNear(5 + 5 * Renglon, 0.01)));
+}
+
+/// A sub-report whose rows of 10 mm show "NAME N", with its sum below.
+Subinforme subinforme(const QString& nombre, double x)
+{
+    LayoutDePrueba prueba;
+    prueba.layout.sentencia = nombre;
+    prueba.layout.detalle.push_back(prueba.banda(10, u"'%1 ' & n"_s.arg(nombre)));
+    prueba.layout.pieInforme.push_back(prueba.banda(10, u"'%1 suma ' & suma(n)"_s.arg(nombre)));
+    Subinforme uno;
+    uno.caja = {x, 0, 90, 0};
+    uno.layout = std::make_shared<const Layout>(prueba.layout);
+    return uno;
+}
+
+TEST(HojaCrece, ASubreportAloneGoesOnOnTheNextPageBetweenItsBands)
+{
+    LayoutDePrueba prueba;
+    prueba.altoUtil(45);
+    prueba.layout.detalle.push_back(prueba.banda(10, u"'fila ' & n"_s));
+    prueba.layout.pieInforme.emplace_back();
+    prueba.layout.pieInforme.back().elementos.emplace_back(subinforme(u"sub"_s, 0));
+    EXPECT_THAT((PaginasDePrueba{prueba.layout, copiaNumerada(2), {{u"sub"_s, copiaNumerada(4)}}}.textos()),
+                ElementsAre(ElementsAre(u"fila 1@10"_s, u"fila 2@20"_s, u"sub 1@30"_s, u"sub 2@40"_s),
+                            ElementsAre(u"sub 3@10"_s, u"sub 4@20"_s, u"sub suma 10@30"_s)));
+}
+
+TEST(HojaCrece, SubreportsSideBySideStandAsBlocks)
+{
+    LayoutDePrueba prueba;
+    prueba.altoUtil(45);
+    prueba.layout.detalle.push_back(prueba.banda(10, u"'fila ' & n"_s));
+    prueba.layout.pieInforme.emplace_back();
+    prueba.layout.pieInforme.back().elementos.emplace_back(subinforme(u"uno"_s, 0));
+    prueba.layout.pieInforme.back().elementos.emplace_back(subinforme(u"dos"_s, 100));
+    prueba.layout.pieInforme.push_back(prueba.banda(5, u"'fin'"_s));
+    PaginasDePrueba hojas{prueba.layout, copiaNumerada(2), {{u"uno"_s, copiaNumerada(1)}, {u"dos"_s, copiaNumerada(3)}}};
+    const auto paginas = hojas.paginas();
+    ASSERT_EQ(paginas.size(), 2U);
+    EXPECT_THAT(prueba::textosConLugar(paginas[0]), ElementsAre(u"fila 1@10,10"_s, u"fila 2@10,20"_s));
+    EXPECT_THAT(prueba::textosConLugar(paginas[1]),
+                ElementsAre(u"uno 1@10,10"_s, u"uno suma 1@10,20"_s, u"dos 1@110,10"_s, u"dos 2@110,20"_s, u"dos 3@110,30"_s,
+                            u"dos suma 6@110,40"_s, u"fin@10,50"_s));
+}
+
+TEST(HojaCrece, AReportWithoutRowsShowsItsSubreports)
+{
+    LayoutDePrueba prueba;
+    prueba.layout.detalle.push_back(prueba.banda(10, u"'fila ' & n"_s));
+    prueba.layout.pieInforme.emplace_back();
+    prueba.layout.pieInforme.back().elementos.emplace_back(subinforme(u"sub"_s, 0));
+    EXPECT_THAT((PaginasDePrueba{prueba.layout, copiaNumerada(0), {{u"sub"_s, copiaNumerada(1)}}}.textos()),
+                ElementsAre(ElementsAre(u"sub 1@10"_s, u"sub suma 1@20"_s)));
+}
+
+TEST(HojaCrece, ALongSubreportIsFoundAgainFromItsMiddle)
+{
+    LayoutDePrueba prueba;
+    prueba.altoUtil(100);
+    prueba.layout.pieInforme.emplace_back();
+    prueba.layout.pieInforme.back().elementos.emplace_back(subinforme(u"sub"_s, 0));
+    const auto textos = PaginasDePrueba{prueba.layout, copiaNumerada(0), {{u"sub"_s, copiaNumerada(500)}}}.textos();
+    ASSERT_EQ(textos.size(), 51U);
+    for (int i = 0; i < 50; ++i) {
+        ASSERT_EQ(textos[static_cast<size_t>(i)].size(), 10);
+        EXPECT_EQ(textos[static_cast<size_t>(i)].first(), u"sub %1@10"_s.arg(10 * i + 1));
+    }
+}
+
+} // namespace
+} // namespace kestrane::report
