@@ -17,6 +17,9 @@ namespace {
 constexpr QStringView Espacio = u"urn:kestrane:informe";
 constexpr QStringView EspacioInstancia = u"http://www.w3.org/2001/XMLSchema-instance";
 
+/// Letters of a wrong value that an error quotes.
+constexpr qsizetype Cita = 60;
+
 template<class Tabla>
 QString nombresDe(const Tabla& tabla)
 {
@@ -90,7 +93,7 @@ private:
             falla(u"<%1> no tiene ningún «%2»; los suyos son: %3."_s.arg(de.nombre, escrito.nombre, nombresDe(admitidos)));
         if (!vale(*atributo->clase, escrito.valor))
             falla(u"<%1>, %2: se esperaba %3 y hay «%4»."_s.arg(de.nombre, escrito.nombre, atributo->clase->ayuda,
-                                                                escrito.valor.left(60)));
+                                                                trozo(escrito.valor, 0, Cita)));
     }
 
     void leeContenido(ElementoXml& de, int profundidad)
@@ -103,7 +106,7 @@ private:
         }
         de.texto = de.texto.trimmed();
         if (de.tipo->texto == TextoPropio::No && !de.texto.isEmpty())
-            fallaLayout(de.lugar, u"dentro de <%1> sobra el texto «%2»."_s.arg(de.nombre, de.texto.left(60)));
+            fallaLayout(de.lugar, u"dentro de <%1> sobra el texto «%2»."_s.arg(de.nombre, trozo(de.texto, 0, Cita)));
     }
 
     ElementoXml hijo(const ElementoXml& padre, int profundidad)

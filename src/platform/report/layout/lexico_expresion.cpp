@@ -103,7 +103,7 @@ private:
             m_aqui += signo.size();
             return {ClaseSimbolo::Signo, signo.toString(), 0, m_aqui - signo.size()};
         }
-        fallaExpresion(m_lugar, m_texto, m_aqui, u"no se entiende el signo «%1»."_s.arg(m_texto[m_aqui]));
+        fallaExpresion(m_lugar, m_texto, m_aqui, u"no se entiende el signo «%1»."_s.arg(trozo(m_texto, m_aqui, 1)));
     }
 
     QStringView m_texto;
@@ -117,7 +117,7 @@ void fallaExpresion(const LugarLayout& lugar, QStringView expresion, qsizetype p
 {
     constexpr qsizetype Cita = 60; // A long expression is quoted around the place.
     const qsizetype desde = std::max<qsizetype>(0, posicion - Cita / 2);
-    QString cita = expresion.mid(desde, Cita).toString().simplified();
+    QString cita = trozo(expresion, desde, Cita).simplified();
     if (desde > 0)
         cita.prepend(u'…');
     if (desde + Cita < expresion.size())

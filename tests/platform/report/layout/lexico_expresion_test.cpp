@@ -35,6 +35,16 @@ TEST(SimbolosDe, LoQueNoEmpiezaNada)
     EXPECT_TRUE(rechazo(u"a & 'b").endsWith(u"carácter 5: al texto que empieza aquí le falta la comilla (') del final."_s));
 }
 
+TEST(SimbolosDe, UnaLetraDeDosMitadesSeCitaEntera)
+{
+    const auto rechazo = [](const QString& texto) {
+        return prueba::descripcionDeError([&] { return simbolosDe(texto, Lugar).size(); });
+    };
+    EXPECT_EQ(rechazo(u"a 😀 b"_s), u"K_x.rpt, línea 4: en «a 😀 b», carácter 3: no se entiende el signo «😀»."_s);
+    EXPECT_TRUE(rechazo(u"#"_s + u"😀"_s.repeated(40)).isValidUtf16());
+    EXPECT_TRUE(rechazo(u"'"_s + u"😀"_s.repeated(40) + u"' #"_s).isValidUtf16());
+}
+
 TEST(FallaExpresion, UnaLargaSeCitaAlrededor)
 {
     const QString larga = u"a+"_s.repeated(60) + u"#"_s;
