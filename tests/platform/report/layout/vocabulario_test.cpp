@@ -1,6 +1,8 @@
 #include "platform/report/layout/vocabulario.h"
 
+#include "platform/report/layout/agregados_expresion.h"
 #include "platform/report/layout/clases_de_valor.h"
+#include "platform/report/layout/formato.h"
 #include "platform/runtime/soporte.h"
 
 #include <stdexcept>
@@ -43,6 +45,14 @@ TEST(Vocabulario, QueValoresValen)
     valen(clases::Columnas, {u"1"_s, u"20"_s}, {u"0"_s, u"21"_s});
     valen(clases::Palabra, {u"seccion"_s, u"g_1"_s}, {u"mi-grupo"_s, u"1a"_s, u"sección"_s});
     valen(clases::Texto, {u""_s, u"Nº de sección"_s}, {});
+}
+
+TEST(Vocabulario, CadaFormatoYCadaTotalQueSePuedeEscribirExiste)
+{
+    for (const QStringView nombre : clases::Formato.patron.split(u'|'))
+        EXPECT_TRUE(formatoDeNombre(nombre).has_value()) << nombre.toString().toStdString();
+    for (const QStringView nombre : clases::Total.patron.split(u'|'))
+        EXPECT_TRUE(agregadoDeNombre(nombre).has_value()) << nombre.toString().toStdString();
 }
 
 } // namespace
