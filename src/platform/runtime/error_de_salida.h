@@ -2,6 +2,7 @@
 
 #include <QByteArrayView>
 #include <QIODevice>
+#include <QSaveFile>
 #include <QString>
 
 #include <stdexcept>
@@ -19,5 +20,9 @@ public:
 
 /// Writes all of `bytes`. ErrorDeSalida when `destino` does not take them.
 void escribeTodo(QIODevice& destino, QByteArrayView bytes);
+
+/// Gives the file its name when the disk has taken all of it. ErrorDeSalida that names it otherwise; it vanishes with the object
+/// then.
+void confirma(QSaveFile& fichero);
 
 } // namespace kestrane
