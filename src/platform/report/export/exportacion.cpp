@@ -1,0 +1,62 @@
+#include "platform/report/export/exportacion.h"
+
+#include "platform/report/export/avance_exportacion.h"
+#include "platform/report/export/csv.h"
+#include "platform/report/export/fichero_provisional.h"
+#include "platform/report/export/html.h"
+#include "platform/report/export/paginas_informe.h"
+#include "platform/report/export/pdf.h"
+#include "platform/report/export/png.h"
+#include "platform/report/export/xlsx.h"
+#include "platform/runtime/error_de_salida.h"
+#include "platform/runtime/motivo_sistema.h"
+
+#include <QSaveFile>
+
+namespace kestrane::report {
+
+namespace {
+
+using Escritura = std::function<bool(QIODevice&)>;
+
+/// A file that takes its name when `escribe` has written it and the disk has taken all of it.
+bool escribeFichero(const QString& nombre, const Escritura& escribe)
+{
+    QSaveFile fichero{nombre};
+    if (!fichero.open(QIODevice::WriteOnly))
+        noSePuedeEscribir(nombre, motivoDe(fichero));
+    if (!escribe(fichero))
+        return false;
+    confirma(fichero);
+    return true;
+}
+
+bool exportaPaginas(Documento& documento, FormatoExportacion formato, const QString& fichero, const AvanceExportacion& avance)
+{
+    const auto paginas = paginasDe(documento, avance);
+    if (!paginas)
+        return false;
+    if (formato == FormatoExportacion::Png)
+        return escribePng(*paginas, fichero, avance);
+    return escribeFichero(fichero, [&](QIODevice& destino) { return escribePdf(*paginas, destino, avance); });
+}
+
+bool exportaTabla(const TablaInforme& tabla, FormatoExportacion formato, const QString& fichero, const AvanceExportacion& avance)
+{
+    if (formato == FormatoExportacion::Xlsx)
+        return escribeXlsx(tabla, fichero, avance);
+    const auto escribe = formato == FormatoExportacion::Csv ? escribeCsv : escribeHtml;
+    return escribeFichero(fichero, [&](QIODevice& destino) { return escribe(tabla, destino, avance); });
+}
+
+} // namespace
+
+bool exporta(Documento& documento, FormatoExportacion formato, const QString& fichero, const AvanceExportacion& avance)
+{
+    if (formato == FormatoExportacion::Pdf || formato == FormatoExportacion::Png)
+        return exportaPaginas(documento, formato, fichero, avance);
+    const TablaInforme tabla{{documento.layout(), documento.filas(), documento.regional()}};
+    return exportaTabla(tabla, formato, fichero, avance);
+}
+
+} // namespace kestrane::report

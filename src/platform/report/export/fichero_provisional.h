@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QString>
+#include <QTemporaryDir>
+
+namespace kestrane::report {
+
+/// A folder beside the files that are to be written, for what cannot be written through an open file. It goes with the object, and
+/// with it what was not handed over.
+class CarpetaProvisional
+{
+public:
+    /// Beside `fichero`. ErrorDeSalida when its folder does not take one.
+    explicit CarpetaProvisional(const QString& fichero);
+
+    [[nodiscard]] QString ruta(const QString& nombre) const { return m_carpeta.filePath(nombre); }
+    [[nodiscard]] QString ruta() const { return m_carpeta.path(); }
+    /// Gives the file `nombre` of the folder its place and name, over what lay there. ErrorDeSalida.
+    void entrega(const QString& nombre, const QString& destino) const;
+
+private:
+    QTemporaryDir m_carpeta;
+};
+
+/// ErrorDeSalida that names the file.
+[[noreturn]] void noSePuedeEscribir(const QString& fichero, const QString& motivo);
+
+} // namespace kestrane::report

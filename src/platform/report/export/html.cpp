@@ -1,0 +1,163 @@
+#include "platform/report/export/html.h"
+
+#include "platform/report/export/recorrido_tabla.h"
+#include "platform/runtime/error_de_salida.h"
+
+namespace kestrane::report {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype Trozo = qsizetype{64} * 1024;
+
+constexpr auto Principio = R"(<!DOCTYPE html>
+<html lang="es">
+<head>
+<meta charset="utf-8">
+<meta name="viewport" content="width=device-width, initial-scale=1">
+<title>%1</title>
+<style>
+body { font: 10pt/1.35 "DejaVu Sans", Verdana, sans-serif; color: #1c2733; margin: 1.5rem; }
+h1 { font-size: 1.4rem; margin: 0 0 .8rem; }
+table { border-collapse: collapse; width: 100%; }
+th, td { padding: .25rem .5rem; text-align: left; vertical-align: top; white-space: pre-line; }
+thead th { background: #24425c; color: #fff; position: sticky; top: 0; }
+tbody td { border-bottom: 1px solid #dfe5ea; }
+tr.grupo th { padding-top: .8rem; border-bottom: 2px solid #24425c; }
+tr.n1 th { padding-left: 1.5rem; }
+tr.n2 th { padding-left: 2.5rem; }
+tr.total th, tr.total td { font-weight: bold; background: #edf2f6; border-top: 1px solid #24425c; }
+.d { text-align: right; font-variant-numeric: tabular-nums; }
+.c { text-align: center; }
+@page { size: %2; margin: 12mm; }
+@media print {
+  body { margin: 0; font-size: 8pt; }
+  thead { display: table-header-group; }
+  thead th { position: static; -webkit-print-color-adjust: exact; print-color-adjust: exact; }
+  tr { break-inside: avoid; }
+  tr.grupo { break-after: avoid; }
+}
+</style>
+</head>
+<body>
+<h1>%1</h1>
+<table aria-label="%1">
+<thead><tr>)";
+
+constexpr auto Final = "</table>\n</body>\n</html>\n";
+
+QByteArray sinMarcas(const QString& texto)
+{
+    return texto.toHtmlEscaped().toUtf8();
+}
+
+/// The paper, for the printing browser; rolls are left to it.
+QByteArray hojaDe(const Pagina& pagina)
+{
+    if (pagina.esRollo())
+        return "auto";
+    return QByteArray::number(pagina.tamano.width()) + "mm " + QByteArray::number(pagina.tamano.height()) + "mm";
+}
+
+const char* claseDe(Horizontal horizontal)
+{
+    switch (horizontal) {
+    case Horizontal::Derecha:
+        return " class=\"d\"";
+    case Horizontal::Centro:
+        return " class=\"c\"";
+    case Horizontal::Izquierda:
+        break;
+    }
+    return "";
+}
+
+class PaginaHtml final : public DestinoTabla
+{
+public:
+    PaginaHtml(const TablaInforme& tabla, QIODevice& destino) : m_tabla{tabla}, m_destino{destino} {}
+
+    void principio()
+    {
+        QByteArray cabeza = Principio;
+        cabeza.replace("%2", hojaDe(m_tabla.pagina())).replace("%1", sinMarcas(m_tabla.titulo()));
+        m_texto = cabeza;
+        for (const ColumnaTabla& columna : m_tabla.columnas())
+            celda("th scope=\"col\"", claseDe(columna.horizontal), sinMarcas(columna.titulo), "th");
+        m_texto += "</tr></thead>\n<tbody>\n";
+    }
+
+    void final()
+    {
+        m_texto += "</tbody>\n";
+        m_texto += Final;
+        escribeTodo(m_destino, m_texto);
+    }
+
+    void empiezaGrupo(int grupo, const QString& titulo) override
+    {
+        m_texto += "<tr class=\"grupo n" + QByteArray::number(grupo) + "\"><th scope=\"rowgroup\" colspan=\"" +
+                   QByteArray::number(m_tabla.columnas().size()) + "\">" + sinMarcas(titulo) + "</th></tr>\n";
+    }
+
+    void fila(const std::vector<Valor>& valores) override
+    {
+        m_texto += "<tr>";
+        for (size_t columna = 0; columna < valores.size(); ++columna)
+            celdaDe(valores[columna], columna, m_tabla.columnas()[columna].formato);
+        m_texto += "</tr>\n";
+        envia();
+    }
+
+    void totales(int, const QString& titulo, const std::vector<Valor>& valores) override
+    {
+        m_texto += "<tr class=\"total\">";
+        for (size_t columna = 0; columna < valores.size(); ++columna) {
+            if (columna == 0 && !m_tabla.columnas()[0].total)
+                celda("th scope=\"row\"", "", sinMarcas(titulo), "th");
+            else
+                celdaDe(valores[columna], columna, m_tabla.columnas()[columna].formatoTotal());
+        }
+        m_texto += "</tr>\n";
+    }
+
+private:
+    void celdaDe(const Valor& valor, size_t columna, const FormatoValor& formato)
+    {
+        const QByteArray escrito = sinMarcas(escribeValor(valor, formato, m_tabla.regional()));
+        celda("td", claseDe(m_tabla.columnas()[columna].horizontal), escrito, "td");
+    }
+
+    void celda(const char* abre, const char* clase, const QByteArray& contenido, const char* cierra)
+    {
+        m_texto.append('<').append(abre).append(clase).append('>').append(contenido);
+        m_texto.append("</").append(cierra).append('>');
+    }
+
+    void envia()
+    {
+        if (m_texto.size() < Trozo)
+            return;
+        escribeTodo(m_destino, m_texto);
+        m_texto.clear();
+    }
+
+    const TablaInforme& m_tabla;
+    QIODevice& m_destino;
+    QByteArray m_texto;
+};
+
+} // namespace
+
+bool escribeHtml(const TablaInforme& tabla, QIODevice& destino, const AvanceExportacion& avance)
+{
+    PaginaHtml pagina{tabla, destino};
+    pagina.principio();
+    if (!recorre(tabla, pagina, avance))
+        return false;
+    pagina.final();
+    return true;
+}
+
+} // namespace kestrane::report

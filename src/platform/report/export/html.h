@@ -1,0 +1,14 @@
+#pragma once
+
+#include "platform/report/export/exportacion.h"
+#include "platform/report/export/tabla_informe.h"
+
+#include <QIODevice>
+
+namespace kestrane::report {
+
+/// Writes the report as one page for browsers that needs nothing beside it: the title, one table with its headings (repeated on
+/// each sheet when it is printed), a heading for each group, totals. False when `avance` broke it off. ErrorDeSalida.
+bool escribeHtml(const TablaInforme& tabla, QIODevice& destino, const AvanceExportacion& avance);
+
+} // namespace kestrane::report

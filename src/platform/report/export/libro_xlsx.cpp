@@ -1,0 +1,207 @@
+#include "platform/report/export/libro_xlsx.h"
+
+#include "platform/report/export/fichero_provisional.h"
+#include "platform/report/export/formato_hoja.h"
+#include "platform/runtime/error_de_salida.h"
+#include "platform/runtime/motivo_sistema.h"
+
+#include <QFile>
+#include <QTemporaryFile>
+
+#include <algorithm>
+#include <cmath>
+#include <fcntl.h>
+#include <xlsxwriter.h>
+
+namespace kestrane::report {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double MilimetrosPorSigno = 1.6; ///< of a column's width, with room for the sheet's larger type
+constexpr double AnchoMinimo = 6;
+constexpr double MilimetrosPorPulgada = 25.4;
+constexpr int NivelMaximo = 7; ///< of a sheet's outline
+constexpr lxw_color_t Tinta = 0x24425C;
+constexpr lxw_color_t FondoTotal = 0xEDF2F6;
+constexpr qint64 Holgura = qint64{1024} * 1024;
+
+struct Papel
+{
+    double corto;
+    uint8_t codigo;
+};
+
+constexpr Papel Papeles[] = {{210, 9}, {148, 11}, {297, 8}, {215.9, 1}};
+
+uint8_t codigoDePapel(const Pagina& pagina)
+{
+    const double corto = pagina.esRollo() ? 0 : std::min(pagina.tamano.width(), pagina.tamano.height());
+    for (const Papel& papel : Papeles) {
+        if (std::abs(papel.corto - corto) < 1)
+            return papel.codigo;
+    }
+    return Papeles[0].codigo;
+}
+
+void viste(lxw_format* formato, ClaseFila clase)
+{
+    if (clase != ClaseFila::Datos)
+        format_set_bold(formato);
+    if (clase == ClaseFila::Cabecera) {
+        format_set_font_color(formato, LXW_COLOR_WHITE);
+        format_set_bg_color(formato, Tinta);
+        format_set_text_wrap(formato);
+    }
+    if (clase == ClaseFila::Grupo)
+        format_set_bottom(formato, LXW_BORDER_THIN);
+    if (clase == ClaseFila::Total) {
+        format_set_bg_color(formato, FondoTotal);
+        format_set_top(formato, LXW_BORDER_THIN);
+    }
+}
+
+uint8_t lado(Horizontal horizontal)
+{
+    switch (horizontal) {
+    case Horizontal::Centro:
+        return LXW_ALIGN_CENTER;
+    case Horizontal::Derecha:
+        return LXW_ALIGN_RIGHT;
+    case Horizontal::Izquierda:
+        break;
+    }
+    return LXW_ALIGN_LEFT;
+}
+
+/// In headers and footers "&" begins a command.
+QByteArray paraCabecera(QString titulo)
+{
+    return titulo.left(100).replace(u'&', u"&&"_s).toUtf8();
+}
+
+} // namespace
+
+LibroXlsx::LibroXlsx(const QString& fichero, const QString& carpeta, const QString& titulo) : m_fichero{fichero}, m_carpeta{carpeta}
+{
+    QByteArray temporal = QFile::encodeName(carpeta);
+    lxw_workbook_options opciones{.constant_memory = LXW_TRUE, .tmpdir = temporal.data(), .use_zip64 = LXW_FALSE};
+    m_libro = workbook_new_opt(QFile::encodeName(fichero).constData(), &opciones);
+    m_hoja = m_libro == nullptr ? nullptr : workbook_add_worksheet(m_libro, nombreDeHoja(titulo).toUtf8().constData());
+    if (m_hoja == nullptr || m_hoja->optimize_tmpfile == nullptr) {
+        lxw_workbook_free(m_libro);
+        throw ErrorDeSalida{u"no se puede empezar la hoja de cálculo"_s};
+    }
+    QByteArray nombre = titulo.toUtf8();
+    QByteArray programa = "Kestrane Listados";
+    lxw_doc_properties propiedades{};
+    propiedades.title = nombre.data();
+    propiedades.author = programa.data();
+    workbook_set_properties(m_libro, &propiedades);
+}
+
+LibroXlsx::~LibroXlsx()
+{
+    lxw_workbook_free(m_libro);
+}
+
+void LibroXlsx::preparaHoja(const Pagina& pagina, const QString& titulo, bool resumenDebajo)
+{
+    if (!pagina.esRollo() && pagina.tamano.width() > pagina.tamano.height())
+        worksheet_set_landscape(m_hoja);
+    worksheet_set_paper(m_hoja, codigoDePapel(pagina));
+    worksheet_fit_to_pages(m_hoja, 1, 0);
+    worksheet_repeat_rows(m_hoja, 0, 0);
+    worksheet_freeze_panes(m_hoja, 1, 0);
+    worksheet_set_header(m_hoja, ("&L&\"-,Bold\"" + paraCabecera(titulo)).constData());
+    worksheet_set_footer(m_hoja, "&CPágina &P de &N");
+    worksheet_outline_settings(m_hoja, LXW_TRUE, resumenDebajo ? LXW_TRUE : LXW_FALSE, LXW_TRUE, LXW_FALSE);
+}
+
+void LibroXlsx::ponAncho(int columna, double milimetros)
+{
+    const auto lugar = static_cast<lxw_col_t>(columna);
+    worksheet_set_column(m_hoja, lugar, lugar, std::max(AnchoMinimo, milimetros / MilimetrosPorSigno), nullptr);
+}
+
+void LibroXlsx::nuevaFila(int nivel)
+{
+    if (++m_fila >= LXW_ROW_MAX)
+        throw ErrorDeSalida{u"una hoja de cálculo no admite más de %1 filas"_s.arg(LXW_ROW_MAX)};
+    if (nivel == 0)
+        return;
+    lxw_row_col_options opciones{};
+    opciones.level = static_cast<uint8_t>(std::min(nivel, NivelMaximo));
+    worksheet_set_row_opt(m_hoja, static_cast<lxw_row_t>(m_fila), LXW_DEF_ROW_HEIGHT, nullptr, &opciones);
+}
+
+lxw_format* LibroXlsx::formato(const QByteArray& numero, Horizontal horizontal, ClaseFila clase)
+{
+    const QByteArray clave =
+        numero + '\t' + QByteArray::number(static_cast<int>(horizontal)) + QByteArray::number(static_cast<int>(clase));
+    lxw_format*& hallado = m_formatos[clave];
+    if (hallado != nullptr)
+        return hallado;
+    hallado = workbook_add_format(m_libro);
+    format_set_align(hallado, lado(horizontal));
+    if (!numero.isEmpty())
+        format_set_num_format(hallado, numero.constData());
+    viste(hallado, clase);
+    return hallado;
+}
+
+void LibroXlsx::celda(int columna, const Valor& valor, const FormatoValor& comoValor, Horizontal horizontal, ClaseFila clase,
+                      const ConfiguracionRegional& regional)
+{
+    lxw_format* visto = formato(formatoDeHoja(valor, comoValor, regional), horizontal, clase);
+    if (valor.esNulo()) {
+        worksheet_write_blank(m_hoja, static_cast<lxw_row_t>(m_fila), static_cast<lxw_col_t>(columna), visto);
+        return;
+    }
+    if (const auto cifra = numeroDeHoja(valor))
+        return numero(columna, *cifra, visto);
+    texto(columna, valor.clase() == Valor::Clase::Texto ? valor.texto() : escribeValor(valor, comoValor, regional), visto);
+}
+
+void LibroXlsx::numero(int columna, double valor, lxw_format* visto)
+{
+    worksheet_write_number(m_hoja, static_cast<lxw_row_t>(m_fila), static_cast<lxw_col_t>(columna), valor, visto);
+}
+
+void LibroXlsx::texto(int columna, const QString& valor, lxw_format* visto)
+{
+    worksheet_write_string(m_hoja, static_cast<lxw_row_t>(m_fila), static_cast<lxw_col_t>(columna),
+                           textoDeHoja(valor).toUtf8().constData(), visto);
+}
+
+/// The library looks at none of its writes on the way: whether the rows are all on the disk, and whether there is room for their
+/// copy and for the packed file, has to be asked for it.
+void LibroXlsx::compruebaDisco() const
+{
+    if (std::fflush(m_hoja->optimize_tmpfile) != 0 || std::ferror(m_hoja->optimize_tmpfile) != 0)
+        noSePuedeEscribir(m_fichero, motivoDe(std::error_code{errno, std::generic_category()}));
+    const qint64 filas = std::ftell(m_hoja->optimize_tmpfile);
+    QTemporaryFile sitio{m_carpeta + u"/sitio"_s};
+    if (!sitio.open())
+        noSePuedeEscribir(m_fichero, motivoDe(sitio));
+    const int error = posix_fallocate(sitio.handle(), 0, 2 * filas + Holgura);
+    if (error != 0)
+        noSePuedeEscribir(m_fichero, motivoDe(std::error_code{error, std::generic_category()}));
+}
+
+void LibroXlsx::cierra()
+{
+    compruebaDisco();
+    errno = 0;
+    const lxw_error error = workbook_close(m_libro);
+    const int motivo = errno;
+    m_libro = nullptr;
+    if (error == LXW_NO_ERROR)
+        return;
+    if (motivo != 0)
+        noSePuedeEscribir(m_fichero, motivoDe(std::error_code{motivo, std::generic_category()}));
+    noSePuedeEscribir(m_fichero, u"la hoja de cálculo no se puede cerrar"_s);
+}
+
+} // namespace kestrane::report

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "platform/report/layout/layout.h"
+
+#include <QByteArray>
+#include <QHash>
+#include <QString>
+
+#include <memory>
+
+struct lxw_format;
+struct lxw_workbook;
+struct lxw_worksheet;
+
+namespace kestrane::report {
+
+/// What kind of row a cell stands in: the heading, a group's title, a row, a total.
+enum class ClaseFila { Cabecera, Grupo, Datos, Total };
+
+/// A workbook of one sheet on its way to a file. Rows are written from top to bottom and leave the memory at once.
+class LibroXlsx
+{
+public:
+    /// `carpeta` takes what is written on the way. ErrorDeSalida.
+    LibroXlsx(const QString& fichero, const QString& carpeta, const QString& titulo);
+    ~LibroXlsx();
+    LibroXlsx(const LibroXlsx&) = delete;
+    LibroXlsx& operator=(const LibroXlsx&) = delete;
+
+    /// Paper, direction, title and page numbers when it is printed; the heading row stays in sight.
+    void preparaHoja(const Pagina& pagina, const QString& titulo, bool resumenDebajo);
+    void ponAncho(int columna, double milimetros);
+    /// Begins the next row, at this level of the outline (0: none).
+    void nuevaFila(int nivel);
+    /// A cell of that row, from left to right: numbers and dates as such. Null leaves it empty but for its looks.
+    void celda(int columna, const Valor& valor, const FormatoValor& formato, Horizontal horizontal, ClaseFila clase,
+               const ConfiguracionRegional& regional);
+
+    /// Puts the file on the disk. ErrorDeSalida, also when the disk did not take some of it on the way.
+    void cierra();
+
+private:
+    lxw_format* formato(const QByteArray& numero, Horizontal horizontal, ClaseFila clase);
+    void numero(int columna, double valor, lxw_format* formato);
+    void texto(int columna, const QString& valor, lxw_format* formato);
+    void compruebaDisco() const;
+
+    QString m_fichero;
+    QString m_carpeta;
+    lxw_workbook* m_libro = nullptr;
+    lxw_worksheet* m_hoja = nullptr;
+    QHash<QByteArray, lxw_format*> m_formatos;
+    qint64 m_fila = -1;
+};
+
+} // namespace kestrane::report
