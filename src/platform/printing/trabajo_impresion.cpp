@@ -1,0 +1,97 @@
+#include "platform/printing/trabajo_impresion.h"
+
+#include "platform/printing/impresora.h"
+#include "platform/runtime/error_de_salida.h"
+
+#include <QPageLayout>
+#include <QPrinter>
+#include <QPrinterInfo>
+
+#include <algorithm>
+
+namespace kestrane::printing {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double MilimetrosPorPulgada = 25.4;
+
+/// The name of the printer that takes the job.
+QString elige(const QString& pedida)
+{
+    const QString nombre = pedida.isEmpty() ? impresoraPredeterminada() : pedida;
+    if (nombre.isEmpty())
+        throw ErrorDeSalida{u"no hay ninguna impresora"_s};
+    if (!existeImpresora(nombre))
+        throw ErrorDeSalida{u"la impresora \"%1\" no existe"_s.arg(nombre)};
+    return nombre;
+}
+
+struct Intervalo
+{
+    int primera = 0; ///< from 0
+    int ultima = 0;
+};
+
+Intervalo intervaloDe(const PeticionImpresion& peticion, int paginas)
+{
+    const int hasta = peticion.hasta <= 0 ? paginas : std::min(peticion.hasta, paginas);
+    const int desde = std::max(peticion.desde, 1);
+    if (desde > hasta)
+        throw ErrorDeSalida{u"el informe no tiene las páginas pedidas"_s};
+    return {.primera = desde - 1, .ultima = hasta - 1};
+}
+
+/// The margins are the layout's: the page is painted from the paper's corner.
+void prepara(QPrinter& impresora, const TrabajoImpresion& trabajo, const PeticionImpresion& peticion)
+{
+    impresora.setFullPage(true);
+    impresora.setDocName(trabajo.titulo);
+    impresora.setCreator(u"Kestrane Listados"_s);
+    impresora.setCopyCount(std::max(peticion.copias, 1));
+    impresora.setCollateCopies(peticion.intercaladas);
+}
+
+void ponHoja(QPrinter& impresora, const QSizeF& tamano)
+{
+    const bool apaisada = tamano.width() > tamano.height();
+    const QPageSize papel{apaisada ? tamano.transposed() : tamano, QPageSize::Millimeter, {}, QPageSize::FuzzyMatch};
+    impresora.setPageSize(papel);
+    impresora.setPageOrientation(apaisada ? QPageLayout::Landscape : QPageLayout::Portrait);
+    impresora.setPageMargins(QMarginsF{});
+}
+
+[[noreturn]] void noTomaElTrabajo(const QString& nombre)
+{
+    throw ErrorDeSalida{u"la impresora \"%1\" no admite el trabajo"_s.arg(nombre)};
+}
+
+} // namespace
+
+bool imprimeTrabajo(const TrabajoImpresion& trabajo, const PeticionImpresion& peticion, const AvanceImpresion& avance)
+{
+    const QString nombre = elige(peticion.impresora);
+    const Intervalo intervalo = intervaloDe(peticion, trabajo.paginas);
+    QPrinter impresora{QPrinterInfo::printerInfo(nombre), QPrinter::HighResolution};
+    prepara(impresora, trabajo, peticion);
+    QPainter lienzo;
+    for (int indice = intervalo.primera; indice <= intervalo.ultima; ++indice) {
+        const double hecho = static_cast<double>(indice - intervalo.primera) / (intervalo.ultima - intervalo.primera + 1);
+        // Qt has no way to take back a job that was begun.
+        if (avance && !avance(hecho) && indice == intervalo.primera)
+            return false;
+        const report::PaginaCompuesta pagina = trabajo.pagina(indice);
+        ponHoja(impresora, pagina.tamano);
+        if (indice == intervalo.primera ? !lienzo.begin(&impresora) : !impresora.newPage())
+            noTomaElTrabajo(nombre);
+        trabajo.pinta(lienzo, pagina, impresora.resolution() / MilimetrosPorPulgada);
+    }
+    if (!lienzo.end() || impresora.printerState() == QPrinter::Error)
+        noTomaElTrabajo(nombre);
+    // The print system tells Qt nothing of a job that it did not take: a printer that is gone by now did not.
+    elige(nombre);
+    return true;
+}
+
+} // namespace kestrane::printing
