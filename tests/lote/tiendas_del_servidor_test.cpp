@@ -82,7 +82,7 @@ protected:
         QBuffer errores;
         salida.open(QIODevice::WriteOnly);
         errores.open(QIODevice::WriteOnly);
-        Avisos avisos{errores, DestinoErrores::Fichero, [] { return qint64{0}; }};
+        Avisos avisos{u"listados-lote"_s, errores, DestinoErrores::Fichero, [] { return qint64{0}; }};
         if (&fila == &m_gastos)
             opciones.informe.respuestas = {{Respuesta::Desde, *Fecha::deCalendario(2024, 6, 8)}};
         EXPECT_EQ(ejecutaInforme(opciones, m_tienda.opciones(), {m_tienda.carpeta(), salida, avisos}), SalidaBien);
