@@ -27,9 +27,10 @@ Opciones del listado, las mismas que ofrecen sus diálogos (las demás se ignora
   --solo-email                 solo clientes con correo
   --totalizado                 el listado totalizado
   --mes N, --anio N            mes y año; si no se indican, los de hoy
-  --formato json|csv           si no se indica, json
+  --formato json|csv|pdf|xlsx|png|html
+                               si no se indica, json; los demás salen como el informe en papel, y sin datos no hay fichero
   --salida FICHERO             si no se indica, la salida estándar; con varios informes se añade el nombre de la tienda, salvo
-                               que sea una tubería o un dispositivo
+                               que sea una tubería o un dispositivo; png añade la página si hay varias
   --listados CARPETA           conserva en CARPETA la base de datos de listados con la que se ha trabajado
   --hoy AAAA-MM-DD             la fecha del sistema; si no se indica, la del equipo
 

@@ -4,7 +4,7 @@
 
 #include <QByteArray>
 #include <QIODevice>
-#include <QString>
+#include <QStringList>
 
 namespace kestrane::lote {
 
@@ -18,18 +18,22 @@ struct InformeMostrado
     bool datos = false; ///< whether there are rows to show
 };
 
+/// Whether the reports of a run may stand in one document.
+enum class Juntos { Si, No };
+
 /// Writes reports in one format. A document is `principio`, the bodies with `separador` between them, `final`.
 class EscritorInformes
 {
 public:
     virtual ~EscritorInformes() = default;
 
-    /// Writes the body of one report, its rows read from the staging tables in stored order. ErrorDeSalida when `cuerpo` does not
-    /// take it.
-    virtual void escribe(const InformeMostrado& informe, Conexion& listados, QIODevice& cuerpo) = 0;
-    [[nodiscard]] virtual QByteArray principio() const = 0;
-    [[nodiscard]] virtual QByteArray separador() const = 0;
-    [[nodiscard]] virtual QByteArray final() const = 0;
+    /// Writes the body of one report to a file whose name is `base` and an ending, or to several where a file holds a page alone;
+    /// returns them in order, none when there is nothing to write. ErrorDeSalida.
+    [[nodiscard]] virtual QStringList escribe(const InformeMostrado& informe, Conexion& listados, const QString& base) = 0;
+    [[nodiscard]] virtual Juntos juntos() const { return Juntos::No; }
+    [[nodiscard]] virtual QByteArray principio() const { return {}; }
+    [[nodiscard]] virtual QByteArray separador() const { return {}; }
+    [[nodiscard]] virtual QByteArray final() const { return {}; }
 };
 
 /// Bytes that are held before they go out.

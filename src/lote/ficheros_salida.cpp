@@ -1,5 +1,7 @@
 #include "lote/ficheros_salida.h"
 
+#include "lote/peticion_imposible.h"
+#include "platform/report/export/png.h"
 #include "platform/runtime/error_de_salida.h"
 #include "platform/runtime/motivo_sistema.h"
 
@@ -7,6 +9,9 @@
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QSet>
+
+#include <memory>
+#include <vector>
 
 namespace kestrane::lote {
 
@@ -19,9 +24,10 @@ namespace {
     throw ErrorDeSalida{u"\"%1\": %2"_s.arg(nombre, motivo)};
 }
 
-void copia(QTemporaryFile& origen, QIODevice& salida)
+void copia(const QString& parte, QIODevice& salida)
 {
-    if (!origen.seek(0))
+    QFile origen{parte};
+    if (!origen.open(QIODevice::ReadOnly))
         throw ErrorDeSalida{motivoDe(origen)};
     while (!origen.atEnd())
         escribeTodo(salida, origen.read(TrozoDeSalida));
@@ -80,29 +86,53 @@ void escribePorEl(const QString& nombre, const EscritorInformes& escritor, std::
         noSePuedeEscribir(nombre, motivoDe(fichero));
 }
 
+using Ficheros = std::vector<std::unique_ptr<QSaveFile>>;
+
+/// One file for each part of a report.
+void escribePartes(Ficheros& ficheros, const QString& nombre, const EscritorInformes& escritor, const CuerpoInforme& informe)
+{
+    const int partes = static_cast<int>(informe.partes.size());
+    for (int parte = 0; parte < partes; ++parte) {
+        ficheros.push_back(abre(report::ficheroDePagina(nombre, parte, partes)));
+        escribeTodo(*ficheros.back(), escritor.principio());
+        copia(informe.partes[parte], *ficheros.back());
+        escribeTodo(*ficheros.back(), escritor.final());
+    }
+}
+
 void escribeFicherosNuevos(const QString& nombre, const EscritorInformes& escritor, std::span<const CuerpoInforme> informes)
 {
-    std::vector<std::unique_ptr<QSaveFile>> ficheros;
+    Ficheros ficheros;
     QSet<QString> dados;
-    for (size_t i = 0; i < informes.size(); ++i) {
-        ficheros.push_back(abre(informes.size() == 1 ? nombre : conTiendaNueva(nombre, informes[i].tienda, dados)));
-        escribeEn(*ficheros.back(), escritor, informes.subspan(i, 1));
+    for (const CuerpoInforme& informe : informes) {
+        const QString suyo = informes.size() == 1 ? nombre : conTiendaNueva(nombre, informe.tienda, dados);
+        escribePartes(ficheros, suyo, escritor, informe);
     }
-    for (const auto& fichero : ficheros) {
-        if (!fichero->commit())
-            noSePuedeEscribir(fichero->fileName(), motivoDe(*fichero));
-    }
+    for (const auto& fichero : ficheros)
+        confirma(*fichero);
+}
+
+/// The files of all reports, which are to stand in one document.
+QStringList partesJuntas(const EscritorInformes& escritor, std::span<const CuerpoInforme> informes)
+{
+    QStringList partes;
+    for (const CuerpoInforme& informe : informes)
+        partes += informe.partes;
+    if (partes.size() > 1 && escritor.juntos() == Juntos::No)
+        throw PeticionImposible{u"Son %1 ficheros: indique dónde con --salida FICHERO."_s.arg(partes.size())};
+    return partes;
 }
 
 } // namespace
 
 void escribeEn(QIODevice& salida, const EscritorInformes& escritor, std::span<const CuerpoInforme> informes)
 {
+    const QStringList partes = partesJuntas(escritor, informes);
     escribeTodo(salida, escritor.principio());
-    for (const CuerpoInforme& informe : informes) {
-        if (&informe != informes.data())
+    for (qsizetype parte = 0; parte < partes.size(); ++parte) {
+        if (parte > 0)
             escribeTodo(salida, escritor.separador());
-        copia(*informe.fichero, salida);
+        copia(partes[parte], salida);
     }
     escribeTodo(salida, escritor.final());
 }

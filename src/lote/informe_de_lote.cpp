@@ -4,13 +4,15 @@
 #include "lote/dialogos_de_lote.h"
 #include "lote/estado_de_salida.h"
 #include "lote/ficheros_salida.h"
-#include "lote/informes_csv.h"
+#include "lote/informes_exportados.h"
 #include "lote/informes_json.h"
 #include "lote/pantalla_de_lote.h"
+#include "lote/peticion_imposible.h"
 #include "lote/tienda_elegida.h"
 #include "pipeline/catalogue/catalogo.h"
 #include "pipeline/catalogue/descripcion.h"
 #include "pipeline/catalogue/ejecutor.h"
+#include "platform/runtime/terminal.h"
 #include "platform/suite/preferencias_en_tabla.h"
 #include "run_context/principal.h"
 
@@ -29,11 +31,35 @@ std::unique_ptr<Reloj> relojDe(const std::optional<Fecha>& hoy)
     return std::make_unique<RelojSistema>();
 }
 
-std::unique_ptr<EscritorInformes> escritorDe(Formato formato)
+std::unique_ptr<EscritorInformes> escritorDe(Formato formato, const QString& carpetaPrograma)
 {
-    if (formato == Formato::Csv)
-        return std::make_unique<InformesCsv>();
+    using report::FormatoExportacion;
+    const auto exportados = [&](FormatoExportacion exportado) {
+        return std::make_unique<InformesExportados>(exportado, carpetaPrograma);
+    };
+    switch (formato) {
+    case Formato::Csv:
+        return exportados(FormatoExportacion::Csv);
+    case Formato::Pdf:
+        return exportados(FormatoExportacion::Pdf);
+    case Formato::Xlsx:
+        return exportados(FormatoExportacion::Xlsx);
+    case Formato::Png:
+        return exportados(FormatoExportacion::Png);
+    case Formato::Html:
+        return exportados(FormatoExportacion::Html);
+    case Formato::Json:
+        break;
+    }
     return std::make_unique<InformesJson>();
+}
+
+void compruebaDestino(const PedidoInforme& pedido, const QIODevice& salida)
+{
+    if (!pedido.salida.isEmpty())
+        return compruebaQueSePuedeEscribir(pedido.salida);
+    if (esBinario(pedido.formato) && esTerminal(salida))
+        throw PeticionImposible{u"Ese formato no se lee en un terminal: indique --salida FICHERO."_s};
 }
 
 /// One run, from the copy of the reports database to the files.
@@ -46,7 +72,7 @@ public:
         , m_copia{datos, opciones.informe.carpetaListados}
         , m_datos{m_copia.opciones()}
         , m_reloj{relojDe(opciones.hoy)}
-        , m_escritor{escritorDe(opciones.informe.formato)}
+        , m_escritor{escritorDe(opciones.informe.formato, entorno.carpetaPrograma)}
     {
     }
 
@@ -117,8 +143,7 @@ int ejecutaInforme(const Opciones& opciones, const database::OpcionesDatos& dato
         entorno.avisos.di(AvisoNoDisponible.toString());
         return SalidaError;
     }
-    if (!opciones.informe.salida.isEmpty())
-        compruebaQueSePuedeEscribir(opciones.informe.salida);
+    compruebaDestino(opciones.informe, entorno.salida);
     entorno.avisos.empieza(u"Preparando el listado"_s);
     return Carrera{opciones, datos, entorno}.corre();
 }

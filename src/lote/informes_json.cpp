@@ -2,6 +2,10 @@
 
 #include "lote/escritor_json.h"
 #include "platform/database/recordset.h"
+#include "platform/runtime/error_de_salida.h"
+#include "platform/runtime/motivo_sistema.h"
+
+#include <QFile>
 
 #include <vector>
 
@@ -66,7 +70,18 @@ void anadeFilas(QByteArray& linea, const QString& sentencia, Conexion& listados,
 
 } // namespace
 
-void InformesJson::escribe(const InformeMostrado& informe, Conexion& listados, QIODevice& cuerpo)
+QStringList InformesJson::escribe(const InformeMostrado& informe, Conexion& listados, const QString& base)
+{
+    QFile cuerpo{base + u".json"_s};
+    if (!cuerpo.open(QIODevice::WriteOnly))
+        throw ErrorDeSalida{motivoDe(cuerpo)};
+    escribeCuerpo(informe, listados, cuerpo);
+    if (!cuerpo.flush())
+        throw ErrorDeSalida{motivoDe(cuerpo)};
+    return {cuerpo.fileName()};
+}
+
+void InformesJson::escribeCuerpo(const InformeMostrado& informe, Conexion& listados, QIODevice& cuerpo)
 {
     QByteArray linea = "{";
     anadeCampo(linea, "control", informe.control);

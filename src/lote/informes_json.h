@@ -9,7 +9,10 @@ namespace kestrane::lote {
 class InformesJson final : public EscritorInformes
 {
 public:
-    void escribe(const InformeMostrado& informe, Conexion& listados, QIODevice& cuerpo) override;
+    [[nodiscard]] QStringList escribe(const InformeMostrado& informe, Conexion& listados, const QString& base) override;
+    /// The body alone, its rows read from the staging tables in stored order. ErrorDeSalida when `cuerpo` does not take it.
+    static void escribeCuerpo(const InformeMostrado& informe, Conexion& listados, QIODevice& cuerpo);
+    [[nodiscard]] Juntos juntos() const override { return Juntos::Si; }
     [[nodiscard]] QByteArray principio() const override { return "["; }
     [[nodiscard]] QByteArray separador() const override { return ",\n "; }
     [[nodiscard]] QByteArray final() const override { return "]\n"; }

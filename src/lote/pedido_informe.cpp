@@ -54,7 +54,15 @@ const QString Tienda = u"tienda"_s;
 const QString OpcionFormato = u"formato"_s;
 const QString OpcionSalida = u"salida"_s;
 const QString CarpetaListados = u"listados"_s;
-constexpr QStringView FormatosFuturos[] = {u"xlsx", u"pdf", u"png", u"html"};
+
+struct NombreFormato
+{
+    QStringView nombre;
+    Formato formato;
+};
+
+constexpr NombreFormato Formatos[] = {{u"json", Formato::Json}, {u"csv", Formato::Csv}, {u"pdf", Formato::Pdf},
+                                      {u"xlsx", Formato::Xlsx}, {u"png", Formato::Png}, {u"html", Formato::Html}};
 
 Resultado<Valor, ErrorDeUso> leeNumero(const OpcionRespuesta& opcion, const QString& texto)
 {
@@ -115,18 +123,17 @@ std::optional<ErrorDeUso> leeRespuestas(const QCommandLineParser& lector, Pedido
 
 std::optional<ErrorDeUso> leeFormato(const QString& escrito, PedidoInforme& pedido)
 {
-    const QString formato = escrito.toLower();
-    if (formato.isEmpty() || formato == u"json")
+    if (escrito.isEmpty())
         return {};
-    if (formato == u"csv") {
-        pedido.formato = Formato::Csv;
+    QStringList nombres;
+    for (const NombreFormato& uno : Formatos) {
+        nombres += uno.nombre.toString();
+        if (uno.nombre.compare(escrito, Qt::CaseInsensitive) != 0)
+            continue;
+        pedido.formato = uno.formato;
         return {};
     }
-    for (const QStringView futuro : FormatosFuturos) {
-        if (formato == futuro)
-            return ErrorDeUso{u"El formato %1 todavía no está disponible; use json o csv."_s.arg(formato)};
-    }
-    return ErrorDeUso{u"--formato admite json o csv, no \"%1\"."_s.arg(escrito)};
+    return ErrorDeUso{u"--formato admite %1, no \"%2\"."_s.arg(nombres.join(u", "_s), escrito)};
 }
 
 std::optional<ErrorDeUso> eligeFila(const QString& control, PedidoInforme& pedido)
@@ -143,6 +150,16 @@ std::optional<ErrorDeUso> eligeFila(const QString& control, PedidoInforme& pedid
 }
 
 } // namespace
+
+bool pinta(Formato formato)
+{
+    return formato == Formato::Pdf || formato == Formato::Png;
+}
+
+bool esBinario(Formato formato)
+{
+    return pinta(formato) || formato == Formato::Xlsx;
+}
 
 QString opcionDe(Respuesta respuesta)
 {

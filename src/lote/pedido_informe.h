@@ -43,7 +43,12 @@ enum class Respuesta {
 /// The option of an answer, for example "--desde".
 [[nodiscard]] QString opcionDe(Respuesta respuesta);
 
-enum class Formato { Json, Csv };
+enum class Formato { Json, Csv, Pdf, Xlsx, Png, Html };
+
+/// Whether it needs an application that paints.
+[[nodiscard]] bool pinta(Formato formato);
+/// Whether it makes no sense on a terminal.
+[[nodiscard]] bool esBinario(Formato formato);
 
 /// A report as the command line asks for it.
 struct PedidoInforme

@@ -107,6 +107,12 @@ int trabajaYDi(const Opciones& opciones, const EntornoDeLote& entorno)
 
 } // namespace
 
+bool necesitaPintar(const QStringList& argumentos)
+{
+    const auto opciones = leeOpciones(argumentos, {});
+    return opciones && opciones.valor().trabajo == Opciones::Trabajo::Informe && pinta(opciones.valor().informe.formato);
+}
+
 int ejecutaPrograma(const QStringList& argumentos, const QString& carpetaPrograma, QIODevice& salida, QIODevice& errores,
                     DestinoErrores destino)
 {

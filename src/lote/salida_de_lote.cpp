@@ -1,9 +1,7 @@
 #include "lote/salida_de_lote.h"
 
 #include "pipeline/hay_datos.h"
-#include "platform/runtime/error_de_salida.h"
 #include "platform/runtime/error_ejecucion.h"
-#include "platform/runtime/motivo_sistema.h"
 
 #include <QDir>
 
@@ -49,14 +47,10 @@ bool SalidaDeLote::sinDatos() const
 
 void SalidaDeLote::escribe(const QString& layout)
 {
-    CuerpoInforme informe{.tienda = m_contexto.TiendaSeleccionada,
-                          .datos = HayDatos(m_contexto.ConexionListados),
-                          .fichero = std::make_unique<QTemporaryFile>(QDir{m_carpeta}.filePath(u"informe"_s))};
-    if (!informe.fichero->open())
-        throw ErrorDeSalida{motivoDe(*informe.fichero)};
-    m_escritor.escribe(
+    CuerpoInforme informe{.tienda = m_contexto.TiendaSeleccionada, .datos = HayDatos(m_contexto.ConexionListados), .partes = {}};
+    informe.partes = m_escritor.escribe(
         {.control = m_control, .tienda = informe.tienda, .layout = layout, .impresora = m_impresora, .datos = informe.datos},
-        m_contexto.ConexionListados, *informe.fichero);
+        m_contexto.ConexionListados, QDir{m_carpeta}.filePath(u"informe-%1"_s.arg(m_informes.size())));
     m_informes.push_back(std::move(informe));
 }
 

@@ -4,9 +4,8 @@
 #include "pipeline/pantalla.h"
 #include "run_context/contexto_ejecucion.h"
 
-#include <QTemporaryFile>
+#include <QStringList>
 
-#include <memory>
 #include <vector>
 
 namespace kestrane::lote {
@@ -16,15 +15,15 @@ struct CuerpoInforme
 {
     QString tienda;
     bool datos = false;
-    std::unique_ptr<QTemporaryFile> fichero;
+    QStringList partes; ///< files, in order: none without data, several where each holds a page
 };
 
-/// In place of the preview: each report that would be shown is written to a temporary file at once, since the next one clears its
+/// In place of the preview: each report that would be shown is written to temporary files at once, since the next one clears its
 /// rows.
 class SalidaDeLote final : public Salida
 {
 public:
-    /// All outlive the object; `carpeta` takes the temporary files, `mensajes` hears of a report that has nothing to show.
+    /// All outlive the object; `carpeta` takes those files, `mensajes` hears of a report that has nothing to show.
     SalidaDeLote(ContextoEjecucion& contexto, QStringView control, EscritorInformes& escritor, Mensajes& mensajes, QString carpeta);
 
     void DrenaEventos() override {}

@@ -1,5 +1,7 @@
 #include "lote/ficheros_salida.h"
 
+#include "apoyo/limite_de_fichero.h"
+#include "lote/peticion_imposible.h"
 #include "platform/runtime/error_de_salida.h"
 
 #include <gtest/gtest.h>
@@ -19,20 +21,30 @@ using namespace Qt::StringLiterals;
 class EscritorFalso final : public EscritorInformes
 {
 public:
-    void escribe(const InformeMostrado&, Conexion&, QIODevice&) override {}
+    explicit EscritorFalso(Juntos juntos = Juntos::Si) : m_juntos{juntos} {}
+    [[nodiscard]] QStringList escribe(const InformeMostrado&, Conexion&, const QString&) override { return {}; }
+    [[nodiscard]] Juntos juntos() const override { return m_juntos; }
     [[nodiscard]] QByteArray principio() const override { return "<"; }
     [[nodiscard]] QByteArray separador() const override { return "|"; }
     [[nodiscard]] QByteArray final() const override { return ">"; }
+
+private:
+    Juntos m_juntos;
 };
 
 class FicherosSalida : public testing::Test
 {
 protected:
-    void informe(const QString& tienda, const QByteArray& cuerpo)
+    void informe(const QString& tienda, const QByteArray& cuerpo) { informe(tienda, QByteArrayList{cuerpo}); }
+    void informe(const QString& tienda, const QByteArrayList& cuerpos)
     {
-        CuerpoInforme nuevo{.tienda = tienda, .datos = true, .fichero = std::make_unique<QTemporaryFile>()};
-        ASSERT_TRUE(nuevo.fichero->open());
-        nuevo.fichero->write(cuerpo);
+        CuerpoInforme nuevo{.tienda = tienda, .datos = true, .partes = {}};
+        for (const QByteArray& cuerpo : cuerpos) {
+            QFile parte{m_partes.filePath(QString::number(++m_escritas))};
+            ASSERT_TRUE(parte.open(QIODevice::WriteOnly));
+            parte.write(cuerpo);
+            nuevo.partes += parte.fileName();
+        }
         m_informes.push_back(std::move(nuevo));
     }
 
@@ -52,6 +64,8 @@ protected:
     }
 
     QTemporaryDir m_carpeta;
+    QTemporaryDir m_partes;
+    int m_escritas = 0;
     EscritorFalso m_escritor;
     std::vector<CuerpoInforme> m_informes;
 };
@@ -106,6 +120,43 @@ TEST_F(FicherosSalida, SeveralHaveTheStoresNameInFrontOfTheEnding)
     EXPECT_EQ(ficheros(), (QStringList{u"caja.dia-Peñíscola.json=<a>"_s, u"caja.dia-San Juan.json=<b>"_s}));
 }
 
+TEST_F(FicherosSalida, PagesHaveTheirNumberBehindTheStoresName)
+{
+    informe(u"Sur"_s, QByteArrayList{"a", "b"});
+    escribe(u"caja.png"_s);
+    EXPECT_EQ(ficheros(), (QStringList{u"caja_001.png=<a>"_s, u"caja_002.png=<b>"_s}));
+    informe(u"Centro"_s, QByteArray{"c"});
+    escribe(u"otra.png"_s);
+    EXPECT_EQ(ficheros().sliced(2), (QStringList{u"otra-Centro.png=<c>"_s, u"otra-Sur_001.png=<a>"_s, u"otra-Sur_002.png=<b>"_s}));
+}
+
+TEST_F(FicherosSalida, AReportWithoutPartsIsNoFile)
+{
+    informe(u"Sur"_s, QByteArrayList{});
+    informe(u"Centro"_s, QByteArray{"c"});
+    escribe(u"caja.pdf"_s);
+    EXPECT_EQ(ficheros(), QStringList{u"caja-Centro.pdf=<c>"_s}) << "the other store's name stays free for it";
+}
+
+TEST_F(FicherosSalida, WhatDoesNotJoinGoesToTheOutputAlone)
+{
+    const EscritorFalso suelto{Juntos::No};
+    QBuffer salida;
+    salida.open(QIODevice::WriteOnly);
+    informe(u"Sur"_s, QByteArrayList{});
+    informe(u"Centro"_s, QByteArray{"c"});
+    escribeEn(salida, suelto, m_informes);
+    EXPECT_EQ(salida.data(), "<c>");
+    informe(u"Norte"_s, QByteArray{"d"});
+    try {
+        escribeEn(salida, suelto, m_informes);
+        FAIL() << "it was joined";
+    } catch (const PeticionImposible& error) {
+        EXPECT_EQ(error.mensaje(), u"Son 2 ficheros: indique dónde con --salida FICHERO."_s);
+    }
+    EXPECT_EQ(salida.data(), "<c>");
+}
+
 TEST_F(FicherosSalida, StoresWhoseNamesMeetInAFilesNameStayApart)
 {
     informe(u"A/B"_s, "1");
@@ -120,6 +171,14 @@ TEST_F(FicherosSalida, WhenOneOfSeveralCannotBeWrittenNoneIs)
     informe(u"Sur"_s, "a");
     informe(u"Centro"_s, "b");
     ASSERT_TRUE(QDir{m_carpeta.path()}.mkdir(u"caja-Centro.json"_s));
+    EXPECT_THROW(escribe(u"caja.json"_s), ErrorDeSalida);
+    EXPECT_EQ(ficheros(), QStringList{});
+}
+
+TEST_F(FicherosSalida, ADiskThatDoesNotTakeTheLastBytesLeavesNothing)
+{
+    informe({}, QByteArray(2000, 'x'));
+    const prueba::LimiteDeFichero limite{1000};
     EXPECT_THROW(escribe(u"caja.json"_s), ErrorDeSalida);
     EXPECT_EQ(ficheros(), QStringList{});
 }

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <QBuffer>
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -23,7 +24,7 @@ protected:
     {
         QBuffer cuerpo;
         cuerpo.open(QIODevice::WriteOnly);
-        InformesJson{}.escribe(informe, m_tienda.listados(), cuerpo);
+        InformesJson::escribeCuerpo(informe, m_tienda.listados(), cuerpo);
         return cuerpo.data();
     }
 
@@ -41,7 +42,22 @@ protected:
 TEST_F(InformesJsonTest, AnOutputThatTakesNothingIsAnError)
 {
     QBuffer cerrado;
-    EXPECT_THROW(InformesJson{}.escribe({}, m_tienda.listados(), cerrado), ErrorDeSalida);
+    EXPECT_THROW(InformesJson::escribeCuerpo({}, m_tienda.listados(), cerrado), ErrorDeSalida);
+}
+
+TEST_F(InformesJsonTest, AFolderThatIsNotThereIsAnError)
+{
+    EXPECT_THROW(static_cast<void>(InformesJson{}.escribe({}, m_tienda.listados(), m_tienda.carpeta() + u"/nada/a"_s)),
+                 ErrorDeSalida);
+}
+
+TEST_F(InformesJsonTest, AReportIsOneFileThoughItHasNoData)
+{
+    const QStringList partes = InformesJson{}.escribe({}, m_tienda.listados(), m_tienda.carpeta() + u"/a"_s);
+    ASSERT_EQ(partes, QStringList{m_tienda.carpeta() + u"/a.json"_s});
+    QFile parte{partes[0]};
+    ASSERT_TRUE(parte.open(QIODevice::ReadOnly));
+    EXPECT_EQ(parte.readAll(), escrito(false));
 }
 
 TEST_F(InformesJsonTest, WithoutRowsBothTablesAreEmptyArrays)

@@ -4,10 +4,15 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QProcess>
+#include <QTemporaryDir>
 
 #include <algorithm>
+#include <cstdlib>
+#include <fcntl.h>
 #include <memory>
+#include <unistd.h>
 #include <vector>
 
 namespace kestrane::lote {
@@ -86,6 +91,93 @@ TEST_F(ListadosLote, TheProgramEndsWithItsStatusAndKeepsErrorsApart)
     EXPECT_EQ(errores(*proceso),
               "listados-lote: No hay datos para ser mostrados.\nlistados-lote: cmd_Marcas no ofrece --mes, que se ignora.\n");
     EXPECT_TRUE(proceso->readAllStandardOutput().endsWith("}]\n"));
+}
+
+/// A shop with a brand, and the program, which finds its layouts beside itself.
+class ListadosLoteEnPapel : public ListadosLote
+{
+protected:
+    ListadosLoteEnPapel() { m_tienda.ejecuta(u"insert into marcas (codigo, nombre) values (7, 'Ñandú y Cía')"_s); }
+
+    [[nodiscard]] QString ruta(const QString& nombre) const { return m_carpeta.filePath(nombre); }
+    [[nodiscard]] QStringList nombres() const
+    {
+        return QDir{m_carpeta.path()}.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    }
+    static QString textoDePdf(const QString& fichero)
+    {
+        QProcess lector;
+        lector.start(u"pdftotext"_s, {fichero, u"-"_s});
+        EXPECT_EQ(estado(lector), 0);
+        return QString::fromUtf8(lector.readAllStandardOutput());
+    }
+
+    QTemporaryDir m_carpeta;
+};
+
+TEST_F(ListadosLoteEnPapel, ADiskWithoutTheFolderIsAnErrorBeforeTheWork)
+{
+    const auto proceso = arranca({u"cmd_Marcas"_s, u"--formato"_s, u"pdf"_s, u"--salida"_s, ruta(u"nada/a.pdf"_s)});
+    EXPECT_EQ(estado(*proceso), SalidaError);
+    EXPECT_EQ(
+        errores(*proceso),
+        u"listados-lote: no se puede escribir el resultado (\"%1\": no existe).\n"_s.arg(ruta(u"nada/a.pdf"_s)).toStdString());
+}
+
+TEST_F(ListadosLoteEnPapel, PagesAndPicturesNeedNoScreenAndSayNothing)
+{
+    for (const QString& formato : {u"pdf"_s, u"png"_s}) {
+        QProcess proceso;
+        QProcessEnvironment entorno = QProcessEnvironment::systemEnvironment();
+        for (const QString& nombre : {u"DISPLAY"_s, u"WAYLAND_DISPLAY"_s, u"XDG_RUNTIME_DIR"_s, u"QT_QPA_PLATFORM"_s})
+            entorno.remove(nombre);
+        proceso.setProcessEnvironment(entorno);
+        proceso.start(Programa, completos({u"cmd_Marcas"_s, u"--formato"_s, formato, u"--salida"_s, ruta(u"a."_s + formato)}));
+        EXPECT_EQ(estado(proceso), SalidaBien);
+        EXPECT_EQ(errores(proceso), "");
+        EXPECT_EQ(proceso.readAllStandardOutput(), "");
+    }
+    EXPECT_EQ(nombres(), (QStringList{u"a.pdf"_s, u"a.png"_s}));
+    EXPECT_TRUE(textoDePdf(ruta(u"a.pdf"_s)).contains(u"Ñandú y Cía"_s));
+}
+
+TEST_F(ListadosLoteEnPapel, APageGoesThroughAPipe)
+{
+    const auto proceso = arranca({u"cmd_Marcas"_s, u"--formato"_s, u"pdf"_s});
+    EXPECT_EQ(estado(*proceso), SalidaBien);
+    QFile fichero{ruta(u"a.pdf"_s)};
+    ASSERT_TRUE(fichero.open(QIODevice::WriteOnly));
+    fichero.write(proceso->readAllStandardOutput());
+    fichero.close();
+    EXPECT_TRUE(textoDePdf(fichero.fileName()).contains(u"Ñandú y Cía"_s));
+}
+
+TEST_F(ListadosLoteEnPapel, PicturesOfSeveralPagesNeedAPlace)
+{
+    for (int marca = 100; marca < 300; ++marca)
+        m_tienda.ejecuta(u"insert into marcas (codigo, nombre) values (%1, 'Marca %1')"_s.arg(marca));
+    const auto alTubo = arranca({u"cmd_Marcas"_s, u"--formato"_s, u"png"_s});
+    EXPECT_EQ(estado(*alTubo), SalidaUso);
+    EXPECT_TRUE(errores(*alTubo).ends_with(" ficheros: indique dónde con --salida FICHERO.\n"));
+    EXPECT_EQ(alTubo->readAllStandardOutput(), "");
+    const auto aFicheros = arranca({u"cmd_Marcas"_s, u"--formato"_s, u"png"_s, u"--salida"_s, ruta(u"a.png"_s)});
+    EXPECT_EQ(estado(*aFicheros), SalidaBien);
+    EXPECT_GE(nombres().size(), 2);
+    EXPECT_EQ(nombres().constFirst(), u"a_001.png"_s);
+}
+
+TEST_F(ListadosLoteEnPapel, WhatIsNoTextIsRefusedOnATerminal)
+{
+    for (const QString& formato : {u"pdf"_s, u"png"_s, u"xlsx"_s}) {
+        const int terminal = posix_openpt(O_RDWR | O_NOCTTY);
+        ASSERT_TRUE(terminal >= 0 && grantpt(terminal) == 0 && unlockpt(terminal) == 0);
+        QProcess proceso;
+        proceso.setStandardOutputFile(QFile::decodeName(ptsname(terminal)));
+        proceso.start(Programa, completos({u"cmd_Marcas"_s, u"--formato"_s, formato}));
+        EXPECT_EQ(estado(proceso), SalidaUso);
+        EXPECT_EQ(errores(proceso), "listados-lote: Ese formato no se lee en un terminal: indique --salida FICHERO.\n");
+        close(terminal);
+    }
 }
 
 TEST_F(ListadosLote, TenAtOnceBesideAProgramThatFillsItsReportsDatabaseWriteTheSame)

@@ -52,16 +52,20 @@ TEST(PedidoInforme, AValueThatMakesNoSenseIsRefused)
     EXPECT_EQ(rechazo(u"cmd_Generales2"_s, {u"--clase"_s, u"X"_s}), "--clase admite V o CI o A, no \"X\".");
 }
 
-TEST(PedidoInforme, FormatsThatAreStillToComeSaySo)
+TEST(PedidoInforme, AnUnknownFormatIsRefused)
 {
-    EXPECT_EQ(rechazo(u"cmd_Marcas"_s, {u"--formato"_s, u"pdf"_s}), "El formato pdf todavía no está disponible; use json o csv.");
-    EXPECT_EQ(rechazo(u"cmd_Marcas"_s, {u"--formato"_s, u"doc"_s}), "--formato admite json o csv, no \"doc\".");
+    EXPECT_EQ(rechazo(u"cmd_Marcas"_s, {u"--formato"_s, u"doc"_s}),
+              "--formato admite json, csv, pdf, xlsx, png, html, no \"doc\".");
 }
 
 TEST(PedidoInforme, TheFormatIsReadInAnyCase)
 {
     EXPECT_EQ(lee(u"cmd_Marcas"_s, {u"--formato"_s, u"JSON"_s}).valor().formato, Formato::Json);
     EXPECT_EQ(lee(u"cmd_Marcas"_s, {u"--formato"_s, u"Csv"_s}).valor().formato, Formato::Csv);
+    EXPECT_EQ(lee(u"cmd_Marcas"_s, {u"--formato"_s, u"pdf"_s}).valor().formato, Formato::Pdf);
+    EXPECT_EQ(lee(u"cmd_Marcas"_s, {u"--formato"_s, u"XLSX"_s}).valor().formato, Formato::Xlsx);
+    EXPECT_EQ(lee(u"cmd_Marcas"_s, {u"--formato"_s, u"png"_s}).valor().formato, Formato::Png);
+    EXPECT_EQ(lee(u"cmd_Marcas"_s, {u"--formato"_s, u"html"_s}).valor().formato, Formato::Html);
 }
 
 TEST(PedidoInforme, WithoutOptionsThereIsNothingButTheRow)
@@ -106,6 +110,14 @@ TEST(PedidoInforme, StoreFormatAndPlacesAreTaken)
     EXPECT_EQ(pedido.valor().formato, Formato::Csv);
     EXPECT_EQ(pedido.valor().salida, u"a.csv"_s);
     EXPECT_EQ(pedido.valor().carpetaListados, u"copia"_s);
+}
+
+TEST(PedidoInforme, PagesAndPicturesArePainted)
+{
+    EXPECT_TRUE(pinta(Formato::Pdf) && pinta(Formato::Png));
+    EXPECT_FALSE(pinta(Formato::Json) || pinta(Formato::Csv) || pinta(Formato::Xlsx) || pinta(Formato::Html));
+    EXPECT_TRUE(esBinario(Formato::Pdf) && esBinario(Formato::Png) && esBinario(Formato::Xlsx));
+    EXPECT_FALSE(esBinario(Formato::Json) || esBinario(Formato::Csv) || esBinario(Formato::Html));
 }
 
 TEST(PedidoInforme, AnAnswerKnowsItsOption)

@@ -14,6 +14,17 @@ namespace {
 using namespace Qt::StringLiterals;
 using prueba::TiendaDePrueba;
 
+constexpr auto LayoutSecciones = R"(<?xml version="1.0" encoding="UTF-8"?>
+<informe xmlns="urn:kestrane:informe" titulo="Secciones">
+  <pagina papel="A4" orientacion="vertical" margenes="12 12 12 12"/>
+  <consulta>select texto1, texto2 from informes</consulta>
+  <datos>
+    <columna titulo="Código" valor="texto1"/>
+    <columna titulo="Nombre" valor="texto2"/>
+  </datos>
+</informe>
+)";
+
 class Programa : public testing::Test
 {
 protected:
@@ -37,6 +48,14 @@ protected:
                                            u"--regional"_s, u"es_ES"_s} +
                                    argumentos,
                                m_tienda.carpeta(), salida, errores);
+    }
+
+    /// The layout of the sections' report.
+    void layout(const QByteArray& xml) const
+    {
+        QFile fichero{QDir{m_tienda.carpeta()}.filePath(u"K_Secciones.rpt"_s)};
+        ASSERT_TRUE(fichero.open(QIODevice::WriteOnly));
+        fichero.write(xml);
     }
 
     TiendaDePrueba m_tienda;
@@ -121,12 +140,47 @@ TEST_F(Programa, WithoutDataTheArrayIsWrittenAllTheSame)
     EXPECT_EQ(m_errores, "listados-lote: No hay datos para ser mostrados.\n");
 }
 
-TEST_F(Programa, WithoutDataATableIsItsFirstLine)
+TEST_F(Programa, WithoutDataThereIsNothingInTheFormatsOfPaper)
 {
+    const QString nombre = QDir{m_tienda.carpeta()}.filePath(u"marcas.xlsx"_s);
     EXPECT_EQ(programa({u"cmd_Marcas"_s, u"--formato"_s, u"CSV"_s}), SalidaSinDatos);
-    EXPECT_TRUE(m_salida.startsWith("\xEF\xBB\xBFtienda;tabla;texto1;")) << m_salida.toStdString();
-    EXPECT_TRUE(m_salida.endsWith(";memo1\r\n"));
-    EXPECT_EQ(m_salida.count('\n'), 1);
+    EXPECT_EQ(m_salida, "");
+    EXPECT_EQ(m_errores, "listados-lote: No hay datos para ser mostrados.\n");
+    EXPECT_EQ(programa({u"cmd_Marcas"_s, u"--formato"_s, u"xlsx"_s, u"--salida"_s, nombre}), SalidaSinDatos);
+    EXPECT_FALSE(QFile::exists(nombre));
+}
+
+TEST_F(Programa, ALayoutThatIsMissingIsError20001AndNothingIsWritten)
+{
+    const QString nombre = QDir{m_tienda.carpeta()}.filePath(u"secciones.html"_s);
+    EXPECT_EQ(programa({u"cmd_Generales8"_s, u"--formato"_s, u"html"_s, u"--salida"_s, nombre}), SalidaError);
+    EXPECT_TRUE(m_errores.startsWith("listados-lote: error 20001: ")) << m_errores.toStdString();
+    EXPECT_TRUE(m_errores.contains("K_Secciones.rpt")) << m_errores.toStdString();
+    EXPECT_FALSE(QFile::exists(nombre));
+}
+
+TEST_F(Programa, ALayoutThatIsBrokenNamesItsFileAndLine)
+{
+    layout("<informe xmlns=\"urn:kestrane:informe\" titulo=\"Secciones\">\n<nada/>\n</informe>\n");
+    EXPECT_EQ(programa({u"cmd_Generales8"_s, u"--formato"_s, u"csv"_s}), SalidaError);
+    EXPECT_TRUE(m_errores.startsWith("listados-lote: error 20001: ")) << m_errores.toStdString();
+    EXPECT_TRUE(m_errores.contains("K_Secciones.rpt") && m_errores.contains('2')) << m_errores.toStdString();
+    EXPECT_EQ(m_salida, "");
+}
+
+TEST_F(Programa, ATableHasTheLayoutsHeadings)
+{
+    layout(LayoutSecciones);
+    EXPECT_EQ(programa({u"cmd_Generales8"_s, u"--formato"_s, u"csv"_s}), SalidaBien) << m_errores.toStdString();
+    EXPECT_EQ(m_salida, "\xEF\xBB\xBF"
+                        "Código;Nombre\r\nB;Color\r\n;Corte\r\n");
+}
+
+TEST_F(Programa, ASpreadsheetGoesThroughAPipeToo)
+{
+    layout(LayoutSecciones);
+    EXPECT_EQ(programa({u"cmd_Generales8"_s, u"--formato"_s, u"xlsx"_s}), SalidaBien) << m_errores.toStdString();
+    EXPECT_TRUE(m_salida.startsWith("PK"));
 }
 
 TEST_F(Programa, AnOptionThatNoDialogOffersIsNamedAndIgnored)
@@ -137,9 +191,9 @@ TEST_F(Programa, AnOptionThatNoDialogOffersIsNamedAndIgnored)
 
 TEST_F(Programa, TheOrderOfTheServicesIsAnAnswer)
 {
-    EXPECT_EQ(programa({u"cmd_Generales4"_s, u"--orden"_s, u"Codigo"_s, u"--formato"_s, u"csv"_s}), SalidaBien);
-    EXPECT_TRUE(m_salida.contains("\r\n\"\";informes;;Lavar;")) << m_salida.toStdString();
-    EXPECT_TRUE(m_salida.contains(";12,5;"));
+    EXPECT_EQ(programa({u"cmd_Generales4"_s, u"--orden"_s, u"Codigo"_s}), SalidaBien);
+    EXPECT_TRUE(m_salida.contains("Lavar")) << m_salida.toStdString();
+    EXPECT_TRUE(m_salida.contains(":12.5"));
 }
 
 TEST_F(Programa, TheReportsDatabaseOfTheRunMayBeKept)

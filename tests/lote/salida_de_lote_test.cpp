@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <QBuffer>
+#include <QFile>
 
 namespace kestrane::lote {
 namespace {
@@ -27,8 +28,10 @@ protected:
 
     static std::string cuerpo(const CuerpoInforme& informe)
     {
-        informe.fichero->seek(0);
-        return informe.fichero->readAll().toStdString();
+        EXPECT_EQ(informe.partes.size(), 1);
+        QFile fichero{informe.partes.constFirst()};
+        EXPECT_TRUE(fichero.open(QIODevice::ReadOnly));
+        return fichero.readAll().toStdString();
     }
 
     TiendaDePrueba m_tienda;

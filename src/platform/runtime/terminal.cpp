@@ -1,6 +1,6 @@
 #include "platform/runtime/terminal.h"
 
-#include <QtGlobal>
+#include <QFileDevice>
 
 #ifdef Q_OS_WIN
 #include <io.h>
@@ -18,6 +18,18 @@ bool esTerminal(std::FILE* fichero)
     return _isatty(_fileno(fichero)) != 0;
 #else
     return isatty(fileno(fichero)) != 0;
+#endif
+}
+
+bool esTerminal(const QIODevice& salida)
+{
+    const auto* const fichero = qobject_cast<const QFileDevice*>(&salida);
+    if (fichero == nullptr || fichero->handle() < 0)
+        return false;
+#ifdef Q_OS_WIN
+    return _isatty(fichero->handle()) != 0;
+#else
+    return isatty(fichero->handle()) != 0;
 #endif
 }
 

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QBuffer>
+#include <QFile>
+
 #include <cstdlib>
 #include <fcntl.h>
 #include <memory>
@@ -38,6 +41,22 @@ TEST(EsTerminal, APseudoTerminalIsOne)
     const Fichero terminal = unaTerminal();
     ASSERT_TRUE(terminal);
     EXPECT_TRUE(esTerminal(terminal.get()));
+}
+
+TEST(EsTerminal, AnOutputIsOneWhenItsFileIs)
+{
+    const Fichero terminal = unaTerminal();
+    const Fichero fichero = unFichero();
+    ASSERT_TRUE(terminal && fichero);
+    const auto deSalida = [](std::FILE* de) {
+        QFile salida;
+        EXPECT_TRUE(salida.open(de, QIODevice::WriteOnly));
+        return esTerminal(salida);
+    };
+    EXPECT_TRUE(deSalida(terminal.get()));
+    EXPECT_FALSE(deSalida(fichero.get()));
+    EXPECT_FALSE(esTerminal(QBuffer{}));
+    EXPECT_FALSE(esTerminal(QFile{}));
 }
 
 TEST(DestinoErroresTest, ErrorsInAFileAreWatchedByNobodyWhereverResultsGo)
