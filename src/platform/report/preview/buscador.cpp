@@ -1,0 +1,108 @@
+#include "platform/report/preview/buscador.h"
+
+#include <algorithm>
+#include <chrono>
+
+namespace kestrane::report {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto Turno = 10ms;
+
+} // namespace
+
+Buscador::Buscador(PaginasVista& paginas, QObject* padre) : QObject{padre}, m_paginas{paginas}
+{
+    connect(&m_turno, &QTimer::timeout, this, &Buscador::avanza);
+}
+
+void Buscador::busca(const QString& texto, int desdePagina)
+{
+    m_buscado = pliega(texto.trimmed()).texto;
+    m_aciertos.clear();
+    m_siguientePagina = 0;
+    m_desdePagina = desdePagina;
+    m_actual = -1;
+    emit haCambiado();
+    sigue();
+}
+
+void Buscador::sigue()
+{
+    if (!activo())
+        return;
+    if (terminado())
+        eligePrimero();
+    else if (!m_turno.isActive())
+        m_turno.start(0); // begun anew each time pages come it would never be its turn
+}
+
+bool Buscador::terminado() const
+{
+    return cuenta() >= MaximoAciertos || m_siguientePagina >= m_paginas.fuente().paginas();
+}
+
+std::span<const Acierto> Buscador::enPagina(int pagina) const
+{
+    const auto [desde, hasta] = std::equal_range(m_aciertos.begin(), m_aciertos.end(), Acierto{pagina, 0, {}},
+                                                 [](const Acierto& a, const Acierto& b) { return a.pagina < b.pagina; });
+    return {desde, hasta};
+}
+
+void Buscador::avanza()
+{
+    const QDeadlineTimer plazo{Turno};
+    const int antes = cuenta();
+    do {
+        if (terminado())
+            break;
+        buscaEnPagina(m_siguientePagina++);
+    } while (!plazo.hasExpired());
+    if (terminado())
+        m_turno.stop();
+    eligePrimero();
+    if (cuenta() != antes || terminado())
+        emit haCambiado();
+}
+
+void Buscador::buscaEnPagina(int pagina)
+{
+    const TextoPagina texto{m_paginas.compuesta(pagina)};
+    for (int tramo = 0; tramo < texto.tramos() && cuenta() < MaximoAciertos; ++tramo) {
+        for (const Trecho& trecho : encuentra(m_buscado, texto.texto(tramo)))
+            m_aciertos.push_back({pagina, tramo, trecho});
+    }
+}
+
+void Buscador::eligePrimero()
+{
+    if (m_actual >= 0 || m_aciertos.empty())
+        return;
+    if (m_aciertos.back().pagina >= m_desdePagina) {
+        const auto primero = std::find_if(m_aciertos.begin(), m_aciertos.end(),
+                                          [this](const Acierto& acierto) { return acierto.pagina >= m_desdePagina; });
+        hazActual(int(primero - m_aciertos.begin()));
+    } else if (terminado() && m_paginas.fuente().completa()) {
+        hazActual(0);
+    }
+}
+
+void Buscador::mueve(int pasos)
+{
+    if (m_aciertos.empty())
+        return;
+    if (m_actual < 0)
+        hazActual(0);
+    else
+        hazActual((m_actual + pasos + cuenta()) % cuenta());
+}
+
+void Buscador::hazActual(int numero)
+{
+    m_actual = numero;
+    emit actualCambiado(numero);
+}
+
+} // namespace kestrane::report

@@ -1,0 +1,44 @@
+#include "platform/report/preview/paginas_vista.h"
+
+#include "platform/runtime/error_de_salida.h"
+#include "platform/runtime/error_ejecucion.h"
+
+#include <memory>
+
+namespace kestrane::report {
+
+using namespace Qt::StringLiterals;
+
+QString motivoDeFallo()
+{
+    try {
+        throw;
+    } catch (const ErrorEjecucion& error) {
+        return error.descripcion();
+    } catch (const ErrorDeSalida& error) {
+        return error.motivo();
+    }
+}
+
+const PaginaVista& PaginasVista::vista(int pagina)
+{
+    if (const PaginaVista* guardada = m_cache.object(pagina))
+        return *guardada;
+    auto nueva = std::make_unique<PaginaVista>();
+    nueva->compuesta = compuesta(pagina);
+    nueva->texto = TextoPagina{nueva->compuesta};
+    const PaginaVista& vista = *nueva;
+    m_cache.insert(pagina, nueva.release());
+    return vista;
+}
+
+PaginaCompuesta PaginasVista::compuesta(int pagina)
+{
+    PaginaCompuesta compuesta;
+    const QString motivo = fallo([&] { compuesta = m_fuente.pagina(pagina); });
+    if (!motivo.isEmpty())
+        m_alFallar(motivo);
+    return compuesta;
+}
+
+} // namespace kestrane::report

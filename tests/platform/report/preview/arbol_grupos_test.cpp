@@ -1,0 +1,84 @@
+#include "platform/report/preview/arbol_grupos.h"
+
+#include <gtest/gtest.h>
+
+#include <QSignalSpy>
+#include <QTest>
+
+namespace kestrane::report {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class ArbolGruposTest : public testing::Test
+{
+protected:
+    std::vector<EntradaIndice> indice{
+        {u"Sección A"_s, 0, 0, 30}, {u"Familia 1"_s, 1, 0, 40}, {u"Familia 2"_s, 1, 2, 10}, {u"Sección B"_s, 0, 3, 30}};
+    ArbolGrupos arbol;
+
+    [[nodiscard]] QModelIndex entrada(int fila, const QModelIndex& padre = {}) const
+    {
+        return arbol.model()->index(fila, 0, padre);
+    }
+};
+
+TEST_F(ArbolGruposTest, InnerGroupsHangFromTheirOuterOne)
+{
+    arbol.crece(indice);
+    ASSERT_EQ(arbol.model()->rowCount(), 2);
+    EXPECT_EQ(entrada(0).data().toString(), u"Sección A"_s);
+    EXPECT_EQ(arbol.model()->rowCount(entrada(0)), 2);
+    EXPECT_EQ(entrada(1, entrada(0)).data().toString(), u"Familia 2"_s);
+    EXPECT_EQ(arbol.model()->rowCount(entrada(1)), 0);
+}
+
+TEST_F(ArbolGruposTest, GrowsWithoutLosingWhatIsOpen)
+{
+    arbol.crece({indice.begin(), indice.begin() + 2});
+    arbol.expand(entrada(0));
+    arbol.crece(indice);
+    EXPECT_TRUE(arbol.isExpanded(entrada(0)));
+    EXPECT_EQ(arbol.model()->rowCount(entrada(0)), 2);
+}
+
+TEST_F(ArbolGruposTest, AGroupWithoutATitledOuterOneStandsOutermost)
+{
+    arbol.crece({{u"Familia 1"_s, 1, 0, 40}, {u"Familia 2"_s, 1, 2, 10}});
+    EXPECT_EQ(arbol.model()->rowCount() + arbol.model()->rowCount(entrada(0)), 2);
+}
+
+TEST_F(ArbolGruposTest, APressGoesToWhereTheGroupBegins)
+{
+    arbol.crece(indice);
+    arbol.resize(300, 300);
+    arbol.show();
+    const QSignalSpy elegidas{&arbol, &ArbolGrupos::elegida};
+    QTest::mouseClick(arbol.viewport(), Qt::LeftButton, {}, arbol.visualRect(entrada(1)).center());
+    ASSERT_GE(elegidas.size(), 1);
+    EXPECT_EQ(elegidas[0][0].toInt(), 3);
+    EXPECT_EQ(elegidas[0][1].toDouble(), 30);
+}
+
+TEST_F(ArbolGruposTest, EnterGoesThereToo)
+{
+    arbol.crece(indice);
+    arbol.show();
+    arbol.setCurrentIndex(entrada(1));
+    const QSignalSpy elegidas{&arbol, &ArbolGrupos::elegida};
+    QTest::keyClick(&arbol, Qt::Key_Return);
+    ASSERT_EQ(elegidas.size(), 1);
+    EXPECT_EQ(elegidas[0][0].toInt(), 3);
+}
+
+TEST_F(ArbolGruposTest, EmptiedItBeginsAnew)
+{
+    arbol.crece(indice);
+    arbol.vacia();
+    EXPECT_EQ(arbol.model()->rowCount(), 0);
+    arbol.crece(indice);
+    EXPECT_EQ(arbol.model()->rowCount(), 2);
+}
+
+} // namespace
+} // namespace kestrane::report

@@ -1,0 +1,55 @@
+#include "platform/report/preview/seleccion.h"
+
+#include "platform/report/preview/fuente_de_prueba.h"
+
+#include <gtest/gtest.h>
+
+namespace kestrane::report {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class SeleccionTest : public testing::Test
+{
+protected:
+    prueba::FuenteDePrueba fuente{{{u"uno"_s}, {u"dos"_s}, {u"tres"_s}}};
+    PaginasVista paginas{fuente, [](const QString&) {}};
+    Seleccion seleccion;
+};
+
+TEST_F(SeleccionTest, IsEmptyUntilItIsExtended)
+{
+    EXPECT_TRUE(seleccion.vacia());
+    seleccion.empieza({1, {0, 2}});
+    EXPECT_TRUE(seleccion.vacia());
+    seleccion.extiende({1, {0, 3}});
+    EXPECT_FALSE(seleccion.vacia());
+    seleccion.quita();
+    EXPECT_TRUE(seleccion.vacia());
+}
+
+TEST_F(SeleccionTest, MayBeDraggedBackwards)
+{
+    seleccion.empieza({0, {0, 3}});
+    seleccion.extiende({0, {0, 1}});
+    EXPECT_EQ(seleccion.texto(paginas), u"no"_s);
+}
+
+TEST_F(SeleccionTest, GoesOverPages)
+{
+    seleccion.empieza({0, {1, 7}});
+    seleccion.extiende({2, {0, 2}});
+    EXPECT_EQ(seleccion.texto(paginas), u"1 de 3\ndos\nPágina 2 de 3\ntr"_s);
+    EXPECT_EQ(seleccion.enPagina(1, {1, 13}), (std::pair{LugarTexto{}, LugarTexto{1, 13}}));
+}
+
+TEST_F(SeleccionTest, PagesOutsideHaveNoneOfIt)
+{
+    seleccion.empieza({1, {0, 0}});
+    seleccion.extiende({1, {0, 2}});
+    EXPECT_EQ(seleccion.enPagina(0, {1, 13}), std::nullopt);
+    EXPECT_EQ(seleccion.enPagina(2, {1, 13}), std::nullopt);
+}
+
+} // namespace
+} // namespace kestrane::report
