@@ -46,20 +46,27 @@ Valor aritmetica(const Argumentos& args, Calculo calcula)
     });
 }
 
+Valor numeroODia(double numero, bool esDia, const ConfiguracionRegional& regional)
+{
+    if (esDia)
+        return aFecha(Valor{numero}, regional);
+    return numero;
+}
+
 /// A day some days later or earlier is a day; the distance of two days is a number.
 Valor suma(const Argumentos& args)
 {
     return siHayDos(args, [&](const Valor& a, const Valor& b) {
-        const Valor total = finito(aDoble(a, args.regional()) + aDoble(b, args.regional()));
-        return esFecha(a) != esFecha(b) ? Valor{aFecha(total, args.regional())} : total;
+        const double total = finito(aDoble(a, args.regional()) + aDoble(b, args.regional()));
+        return numeroODia(total, esFecha(a) != esFecha(b), args.regional());
     });
 }
 
 Valor resta(const Argumentos& args)
 {
     return siHayDos(args, [&](const Valor& a, const Valor& b) {
-        const Valor total = finito(aDoble(a, args.regional()) - aDoble(b, args.regional()));
-        return esFecha(a) && !esFecha(b) ? Valor{aFecha(total, args.regional())} : total;
+        const double total = finito(aDoble(a, args.regional()) - aDoble(b, args.regional()));
+        return numeroODia(total, esFecha(a) && !esFecha(b), args.regional());
     });
 }
 
