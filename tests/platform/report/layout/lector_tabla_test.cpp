@@ -105,7 +105,7 @@ TEST(LectorTabla, LasVariantesDeUnaColumna)
     const Layout layout = layoutDe(
         u"<estilo nombre=\"rojo\" color=\"#ff0000\"/><estilo nombre=\"celda-par\" negrita=\"si\"/>"
         "<tabla><columna titulo=\"A\" valor=\"b\" formato=\"numero\"><si condicion=\"b &lt; 0\" estilo=\"rojo\"/></columna></tabla>"_s);
-    const auto& variantes = todos<Texto>(layout.detalle[0])[0].variantes;
+    const auto variantes = todos<Texto>(layout.detalle[0]).at(0).variantes;
     ASSERT_EQ(variantes.size(), 2U);
     EXPECT_EQ(variantes[0].estilo.color, QColor(255, 0, 0));
     EXPECT_EQ(variantes[0].estilo.horizontal, Horizontal::Derecha);
