@@ -179,8 +179,9 @@ void LibroXlsx::texto(int columna, const QString& valor, lxw_format* visto)
 /// copy and for the packed file, has to be asked for it.
 void LibroXlsx::compruebaDisco() const
 {
+    errno = 0;
     if (std::fflush(m_hoja->optimize_tmpfile) != 0 || std::ferror(m_hoja->optimize_tmpfile) != 0)
-        noSePuedeEscribir(m_fichero, motivoDe(std::error_code{errno, std::generic_category()}));
+        noSePuedeEscribir(m_fichero, motivoDe(std::error_code{errno == 0 ? ENOSPC : errno, std::generic_category()}));
     const qint64 filas = std::ftell(m_hoja->optimize_tmpfile);
     QTemporaryFile sitio{m_carpeta + u"/sitio"_s};
     if (!sitio.open())
@@ -193,6 +194,10 @@ void LibroXlsx::compruebaDisco() const
 void LibroXlsx::cierra()
 {
     compruebaDisco();
+    // The library would say it on the standard error, in words of its own.
+    QFile fichero{m_fichero};
+    if (!fichero.open(QIODevice::WriteOnly))
+        noSePuedeEscribir(m_fichero, motivoDe(fichero));
     errno = 0;
     const lxw_error error = workbook_close(m_libro);
     const int motivo = errno;
