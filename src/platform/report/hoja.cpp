@@ -6,8 +6,6 @@ namespace kestrane::report {
 
 namespace {
 
-/// Sums of heights are not exact: labels that fill a sheet to the last hundredth must not run over.
-constexpr double Holgura = 0.001;
 /// What a band that cannot be cut takes at least of a page on which nothing else stands.
 constexpr double AvanceMinimo = 5;
 
@@ -19,6 +17,7 @@ Hoja::Hoja(const InformeEnlazado& informe, const MedidorBandas& medidor, const I
     , m_formato{informe.layout().pagina}
     , m_medidor{medidor}
     , m_recorrido{informe}
+    , m_reserva{informe, medidor, numeros}
     , m_lugar{inicio}
     , m_numeros{numeros}
     , m_salida{salida}
@@ -73,7 +72,7 @@ bool Hoja::sigue()
     if (parte == Parte::Detalle && m_formato.columnas > 1)
         return colocaCaja();
     const bool esCabecera = parte == Parte::CabeceraGrupo && m_lugar.paso.banda == 0;
-    if (esCabecera && !m_vacia && !cabe(necesario(m_lugar.paso)))
+    if (esCabecera && !m_vacia && !cabe(m_reserva.para(m_lugar.paso, altoDeCuerpo())))
         return false;
     return colocaBanda();
 }
@@ -82,7 +81,7 @@ bool Hoja::sigue()
 bool Hoja::encabeza()
 {
     const double alto = m_medidor.alto(m_informe, m_informe.cabeceraPagina(), contexto(m_lugar.paso.fila));
-    if (!m_vacia && !cabe(alto + necesario(m_lugar.paso)))
+    if (!m_vacia && !cabe(alto + m_reserva.para(m_lugar.paso, altoDeCuerpo())))
         return false;
     ponEncabezados();
     return true;
@@ -92,10 +91,8 @@ bool Hoja::abreGrupos()
 {
     Paso& paso = m_lugar.paso;
     const int primero = m_recorrido.primerNivelQueEmpieza(paso.fila);
-    bool salta = false;
-    for (int nivel = primero; nivel <= m_informe.niveles(); ++nivel)
-        salta = salta || (paso.fila > 0 && m_informe.grupo(nivel).grupo->saltoDePagina);
-    if (!m_vacia && (salta || !cabe(necesario(primero, paso.fila))))
+    const bool salta = m_recorrido.empiezaPagina(paso.fila);
+    if (!m_vacia && (salta || !cabe(m_reserva.paraGrupos(primero, paso.fila, altoDeCuerpo()))))
         return false;
     if (m_salida.indice)
         apuntaGrupos(primero);
@@ -111,8 +108,7 @@ void Hoja::apuntaGrupos(int primero)
         const ExpresionEnlazada& titulo = m_informe.grupo(nivel).titulo;
         if (titulo.vacia())
             continue;
-        QString texto = m_medidor.texto(titulo, ambito);
-        m_salida.indice->push_back({std::move(texto), nivel - 1, m_numeros.pagina - 1, m_y});
+        m_salida.indice->push_back({m_medidor.texto(titulo, ambito), nivel - 1, m_numeros.pagina - 1, m_y});
     }
 }
 
@@ -135,12 +131,7 @@ bool Hoja::colocaBanda()
 /// Neighbours that stand at the foot of the page stand there together.
 bool Hoja::colocaAlPie(const BandaMedida& banda)
 {
-    const SeccionEnlazada& seccion = *m_recorrido.seccion(m_lugar.paso);
-    double bloque = 0;
-    for (auto i = static_cast<size_t>(m_lugar.paso.banda); i < seccion.size() && seccion[i].banda->alPieDePagina; ++i) {
-        const auto medida = m_medidor.mide(m_informe, seccion[i], contexto(m_lugar.paso.fila));
-        bloque += medida ? medida->alto : 0;
-    }
+    const double bloque = m_reserva.bloqueAlPie(m_lugar.paso);
     if (cabe(bloque))
         m_y = std::max(m_y, m_limite - bloque);
     else if (!m_vacia)
@@ -152,7 +143,7 @@ bool Hoja::coloca(const BandaMedida& banda)
 {
     const double falta = banda.alto - m_lugar.desde;
     if (!cabe(falta)) {
-        const bool cabeEnOtra = banda.alto <= m_limite - m_inicioCuerpo + Holgura;
+        const bool cabeEnOtra = banda.alto <= altoDeCuerpo() + Holgura;
         if (!m_vacia && (!banda.esDivisible() || (cabeEnOtra && !banda.fluye())))
             return false;
         if (banda.esDivisible())
@@ -184,13 +175,6 @@ bool Hoja::parte(const BandaMedida& banda)
         return false;
     aLaSiguiente();
     return true;
-}
-
-void Hoja::aLaSiguiente()
-{
-    m_lugar.desde = 0;
-    m_lugar.hecho = 0;
-    m_recorrido.avanza(m_lugar.paso);
 }
 
 /// The details of a row as one box beside others.
@@ -255,49 +239,6 @@ void Hoja::pon(const BandaMedida& banda, qsizetype fila, const TramoBanda& tramo
         m_salida.compositor->compone(m_informe, banda, contexto(fila), tramo, *m_salida.pagina);
     m_vacia = false;
     m_ultimaFila = fila;
-}
-
-bool Hoja::cabe(double alto) const
-{
-    return m_y + alto <= m_limite + Holgura;
-}
-
-double Hoja::necesario(int nivel, qsizetype fila) const
-{
-    const GrupoEnlazado& grupo = m_informe.grupo(nivel);
-    const double alto = m_medidor.alto(m_informe, grupo.cabecera, contexto(fila));
-    if (!grupo.grupo->juntoALaPrimera)
-        return alto;
-    return alto + (nivel < m_informe.niveles() ? necesario(nivel + 1, fila) : altoPrimeraFila(fila));
-}
-
-double Hoja::necesario(const Paso& paso) const
-{
-    if (paso.parte == Parte::AbreGrupos)
-        return necesario(m_recorrido.primerNivelQueEmpieza(paso.fila), paso.fila);
-    if (paso.parte == Parte::CabeceraGrupo)
-        return necesario(paso.nivel, paso.fila);
-    if (paso.parte == Parte::Detalle)
-        return altoPrimeraFila(paso.fila);
-    return altoMinimo(m_recorrido.banda(paso), paso.fila);
-}
-
-double Hoja::altoPrimeraFila(qsizetype fila) const
-{
-    double alto = 0;
-    for (const BandaEnlazada& banda : m_informe.detalle())
-        alto += altoMinimo(banda, fila);
-    return alto;
-}
-
-/// What of a band must stand with what is above it: all, unless it may go on on the next page.
-double Hoja::altoMinimo(const BandaEnlazada& banda, qsizetype fila) const
-{
-    const auto medida = m_medidor.mide(m_informe, banda, contexto(fila));
-    if (!medida)
-        return 0;
-    const bool seParte = medida->esDivisible() && (medida->fluye() || medida->alto > m_limite - m_inicioCuerpo);
-    return seParte ? banda.banda->alto : medida->alto;
 }
 
 } // namespace kestrane::report

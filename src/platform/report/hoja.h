@@ -2,6 +2,7 @@
 
 #include "platform/report/compositor.h"
 #include "platform/report/documento.h"
+#include "platform/report/reserva_de_sitio.h"
 
 namespace kestrane::report {
 
@@ -37,6 +38,9 @@ public:
     [[nodiscard]] InicioPagina llena();
 
 private:
+    /// Sums of heights are not exact: labels that fill a sheet to the last hundredth must not run over.
+    static constexpr double Holgura = 0.001;
+
     void empieza();
     void termina();
     /// One step on; false when the page is full.
@@ -48,7 +52,11 @@ private:
     [[nodiscard]] bool colocaAlPie(const BandaMedida& banda);
     [[nodiscard]] bool coloca(const BandaMedida& banda);
     [[nodiscard]] bool parte(const BandaMedida& banda);
-    void aLaSiguiente();
+    void aLaSiguiente()
+    {
+        m_lugar.desde = m_lugar.hecho = 0;
+        m_recorrido.avanza(m_lugar.paso);
+    }
     [[nodiscard]] bool colocaCaja();
     void cierraCajas();
 
@@ -56,17 +64,15 @@ private:
     void ponSeccion(const SeccionEnlazada& seccion, qsizetype fila);
     void pon(const BandaMedida& banda, qsizetype fila, const TramoBanda& tramo);
     [[nodiscard]] Contexto contexto(qsizetype fila) const { return {fila, m_numeros.pagina, m_numeros.paginas}; }
-    [[nodiscard]] bool cabe(double alto) const;
-    /// The room that a header takes with all that must stand on the same page.
-    [[nodiscard]] double necesario(int nivel, qsizetype fila) const;
-    [[nodiscard]] double necesario(const Paso& paso) const;
-    [[nodiscard]] double altoPrimeraFila(qsizetype fila) const;
-    [[nodiscard]] double altoMinimo(const BandaEnlazada& banda, qsizetype fila) const;
+    [[nodiscard]] bool cabe(double alto) const { return m_y + alto <= m_limite + Holgura; }
+    /// The room for bands of a page.
+    [[nodiscard]] double altoDeCuerpo() const { return m_limite - m_inicioCuerpo; }
 
     const InformeEnlazado& m_informe;
     const Pagina& m_formato;
     const MedidorBandas& m_medidor;
     Recorrido m_recorrido;
+    ReservaDeSitio m_reserva;
     InicioPagina m_lugar;
     Contexto m_numeros;
     SalidaHoja m_salida;

@@ -117,6 +117,15 @@ void Recorrido::cierra(Paso& paso, int nivel) const
     paso = {parte, static_cast<qint16>(nivel), 0, paso.fila};
 }
 
+bool Recorrido::empiezaPagina(qsizetype fila) const
+{
+    for (int nivel = primerNivelQueEmpieza(fila); fila > 0 && nivel <= m_informe.niveles(); ++nivel) {
+        if (m_informe.grupo(nivel).grupo->saltoDePagina)
+            return true;
+    }
+    return false;
+}
+
 int Recorrido::nivelesAbiertos(const Paso& paso) const
 {
     switch (paso.parte) {

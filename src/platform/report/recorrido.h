@@ -34,6 +34,8 @@ public:
     {
         return m_informe.niveles() - m_informe.filas().gruposQueEmpiezan(fila) + 1;
     }
+    /// Whether a group that begins at the row, not at the first one, wants a page of its own.
+    [[nodiscard]] bool empiezaPagina(qsizetype fila) const;
     /// How many levels of groups, from the outermost, go on from before the step.
     [[nodiscard]] int nivelesAbiertos(const Paso& paso) const;
 
