@@ -96,7 +96,11 @@ void VentanaVista::imprime()
     auto* dialogo = new DialogoImpresion{*m_servicios.impresion, preferida, m_fuente->completa() ? m_fuente->paginas() : 0,
                                          m_lienzo->paginaActual() + 1, this};
     dialogo->setAttribute(Qt::WA_DeleteOnClose);
-    connect(dialogo, &QDialog::accepted, this, [this, dialogo] { imprime(dialogo->peticion()); });
+    connect(dialogo, &QDialog::accepted, this, [this, dialogo] {
+        // Printing serves events, and the dialog must be gone before.
+        QMetaObject::invokeMethod(
+            this, [this, peticion = dialogo->peticion()] { imprime(peticion); }, Qt::QueuedConnection);
+    });
     dialogo->open();
 }
 

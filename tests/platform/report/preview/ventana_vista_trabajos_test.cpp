@@ -19,6 +19,12 @@ class VentanaVistaTrabajos : public prueba::VentanaDePrueba
 protected:
     void exporta(FormatoExportacion formato) { control<QToolButton>(u"exportar")->menu()->actions().at(int(formato))->trigger(); }
     [[nodiscard]] QString aviso() const { return control<QWidget>(u"banda")->isVisible() ? texto(u"textoAviso") : QString{}; }
+    /// Presses "Imprimir" in the dialog and waits for what the window tells of it.
+    void aceptaImpresion()
+    {
+        pulsa(u"imprime");
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !aviso().isEmpty(); }));
+    }
     [[nodiscard]] QDialog* dialogoImpresion() const { return control<QDialog>(u"dialogoImpresion"); }
 };
 
@@ -156,7 +162,7 @@ TEST_F(VentanaVistaTrabajos, PrintsWhatTheDialogAsksForOnceAllPagesAreKnown)
     control<QSpinBox>(u"hasta")->setValue(4);
     control<QSpinBox>(u"copias")->setValue(2);
     fuente->tope = 9;
-    pulsa(u"imprime");
+    aceptaImpresion();
     ASSERT_EQ(impresion.peticiones.size(), 1U);
     EXPECT_EQ(impresion.peticiones[0], (PeticionImpresion{u"OKI"_s, 1, 4, 2}));
     EXPECT_TRUE(impresion.completa);
@@ -177,7 +183,7 @@ TEST_F(VentanaVistaTrabajos, APrinterThatVanishedIsTold)
     abre(1, 1);
     impresion.alImprimir = [](const AvanceExportacion&) -> bool { throw ErrorDeSalida{u"La impresora HP no responde."_s}; };
     pulsa(u"imprimir");
-    pulsa(u"imprime");
+    aceptaImpresion();
     EXPECT_EQ(aviso(), u"Imprimiendo: no se ha podido. La impresora HP no responde."_s);
 }
 
@@ -186,7 +192,7 @@ TEST_F(VentanaVistaTrabajos, TheNextReportOffersThePrinterThatWasChosen)
     abre(1, 1);
     pulsa(u"imprimir");
     control<QComboBox>(u"impresora")->setCurrentText(u"OKI"_s);
-    pulsa(u"imprime");
+    aceptaImpresion();
     abre(1, 1);
     pulsa(u"imprimir");
     EXPECT_EQ(control<QComboBox>(u"impresora")->currentText(), u"OKI"_s);
