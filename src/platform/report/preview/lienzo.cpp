@@ -40,12 +40,15 @@ Lienzo::Lienzo(PaginasVista& paginas, const Buscador& buscador, QWidget* padre)
 
 void Lienzo::anadePaginas()
 {
-    for (int pagina = m_geometria.paginas(); pagina < m_paginas.fuente().paginas(); ++pagina)
+    const int antes = m_geometria.paginas();
+    for (int pagina = antes; pagina < m_paginas.fuente().paginas(); ++pagina)
         m_geometria.anade(m_paginas.fuente().tamano(pagina));
     if (m_paginaAvisada < 0)
         ajustaAVentana();
     ajustaBarras();
-    viewport()->update();
+    // Pages below what is seen would cost a painting for each slice of laying out.
+    if (antes == 0 || (antes < m_geometria.paginas() && cajaEnVentana(antes).top() < viewport()->height()))
+        viewport()->update();
     avisaPagina();
 }
 

@@ -64,8 +64,10 @@ void VentanaVista::componeMas()
     const QString motivo = fallo([this] { m_fuente->avanza(QDeadlineTimer{Turno}); });
     if (!motivo.isEmpty() || m_fuente->completa())
         m_turno.stop();
-    if (m_fuente->completa())
+    if (m_fuente->completa()) {
         m_paginas.olvida(); // pages that say how many there are were composed without knowing it
+        m_lienzo->viewport()->update();
+    }
     if (!motivo.isEmpty())
         fallaPagina(motivo);
     refresca();

@@ -147,6 +147,7 @@ void VentanaVista::trabaja(const QString& que, const QString& hecho, const Dialo
     else
         m_banda->di(BandaAviso::Clase::Noticia, acabado ? hecho : u"%1: cancelado."_s.arg(que));
     m_paginas.olvida();
+    m_lienzo->viewport()->update();
     if (!m_fuente->completa())
         m_turno.start(0);
     refresca();

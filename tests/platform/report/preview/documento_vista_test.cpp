@@ -8,7 +8,9 @@
 
 #include <QFile>
 #include <QLabel>
+#include <QMenu>
 #include <QTest>
+#include <QToolButton>
 
 namespace kestrane::report {
 namespace {
@@ -111,6 +113,29 @@ TEST_F(DocumentoVistaTest, TheDocumentItselfIsExported)
     };
     EXPECT_FALSE(abre()->exporta(FormatoExportacion::Csv, u"x.csv"_s, [](double) { return false; }));
     EXPECT_EQ(pedidos, QStringList{u"Secciones 2 x.csv"_s});
+}
+
+TEST_F(DocumentoVistaTest, AWindowWritesRealFilesAndTellsWhereItCannot)
+{
+    llena(3);
+    exporta = report::exporta;
+    QString elegido = tienda.carpeta() + u"/salida.pdf"_s;
+    ServiciosVista servicios;
+    servicios.eligeFichero = [&elegido](QWidget*, FormatoExportacion, const QString&) { return elegido; };
+    VentanasVista ventanas{servicios};
+    VentanaVista& ventana = ventanas.abre(abre(), u"INFORMES:"_s);
+    auto* exportaPdf = ventana.findChild<QToolButton*>(u"exportar"_s)->menu()->actions().first();
+    exportaPdf->trigger();
+    QFile escrito{elegido};
+    ASSERT_TRUE(escrito.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(escrito.readAll().startsWith("%PDF-"));
+    elegido = tienda.carpeta() + u"/no/existe/salida.pdf"_s;
+    exportaPdf->trigger();
+    auto* banda = ventana.findChild<BandaAviso*>();
+    EXPECT_TRUE(banda->isVisible());
+    EXPECT_TRUE(banda->texto().startsWith(u"Exportando: no se ha podido."_s)) << banda->texto().toStdString();
+    EXPECT_TRUE(ventana.isVisible());
+    EXPECT_FALSE(QFile::exists(elegido));
 }
 
 TEST_F(DocumentoVistaTest, AWindowOnARealReportFindsItsText)

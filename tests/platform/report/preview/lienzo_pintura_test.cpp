@@ -99,6 +99,18 @@ TEST_F(LienzoPintura, ScrollingPaintsWhatComesIntoSight)
     EXPECT_TRUE(fuente.pedidas.contains(2));
 }
 
+TEST_F(LienzoPintura, PagesThatComeOutOfSightPaintNothing)
+{
+    lienzo.ponZoom({Zoom::Modo::Porcentaje, 100});
+    QCoreApplication::processEvents();
+    const int antes = fuente.pintadas;
+    fuente.hojas += QStringList{u"otra"_s};
+    fuente.hechas = 4;
+    lienzo.anadePaginas();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(fuente.pintadas, antes);
+}
+
 TEST_F(LienzoPintura, AWindowThatIsNarrowedFitsAnew)
 {
     lienzo.resize(500, 700);
