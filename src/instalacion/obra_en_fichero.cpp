@@ -3,6 +3,7 @@
 #include "platform/database/error_motor.h"
 #include "platform/database/sqlite/sqlite_motor.h"
 #include "platform/runtime/error_ejecucion.h"
+#include "platform/runtime/fichero_destino.h"
 #include "platform/runtime/motivo_sistema.h"
 
 #include <QCoreApplication>
@@ -115,6 +116,8 @@ void ObraEnFichero::empiezaFichero()
 /// Nobody sees the file before it has its name, so it needs neither a journal nor the disk's word.
 void ObraEnFichero::construye(const Relleno& relleno)
 {
+    if (const QString estorbo = estorboEn(m_ruta); !estorbo.isEmpty())
+        noSeEscribe(estorbo);
     haceCarpeta();
     empiezaFichero();
     database::sqlite::SqliteMotor motor{{.fichero = m_provisional}};
@@ -185,7 +188,7 @@ void ObraEnFichero::cierraAnterior() const
 
 std::unique_ptr<Obra> obraEnFichero(const BaseEsquema& base, const QString& ruta)
 {
-    return std::make_unique<ObraEnFichero>(base, ruta);
+    return std::make_unique<ObraEnFichero>(base, sigueEnlaces(ruta));
 }
 
 } // namespace kestrane::instalacion

@@ -4,6 +4,7 @@
 #include "platform/database/conexion.h"
 #include "platform/database/recordset.h"
 #include "platform/runtime/error_ejecucion.h"
+#include "platform/runtime/fichero_destino.h"
 #include "platform/runtime/motivo_sistema.h"
 
 #include <QDir>
@@ -135,6 +136,8 @@ void CopiaListados::conserva() const
     if (m_destino.isEmpty())
         return;
     const QString anterior = QDir{m_destino}.filePath(Dsn + Ending);
+    if (const QString estorbo = estorboEn(anterior); !estorbo.isEmpty())
+        noSePuede(u"no se puede escribir \"%1\" (%2)"_s.arg(anterior, estorbo));
     for (const QString& cola : {u"-wal"_s, u"-shm"_s}) // the log of the older one would be taken for this one's
         QFile::remove(anterior + cola);
     std::error_code error;

@@ -1,16 +1,16 @@
 #include "lote/ficheros_salida.h"
 
 #include "lote/peticion_imposible.h"
+#include "platform/report/export/fichero_provisional.h"
 #include "platform/report/export/png.h"
 #include "platform/runtime/error_de_salida.h"
+#include "platform/runtime/fichero_destino.h"
 #include "platform/runtime/motivo_sistema.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QSet>
 
-#include <memory>
 #include <vector>
 
 namespace kestrane::lote {
@@ -18,11 +18,6 @@ namespace kestrane::lote {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-[[noreturn]] void noSePuedeEscribir(const QString& nombre, const QString& motivo)
-{
-    throw ErrorDeSalida{u"\"%1\": %2"_s.arg(nombre, motivo)};
-}
 
 void copia(const QString& parte, QIODevice& salida)
 {
@@ -61,14 +56,6 @@ QString conTiendaNueva(const QString& nombre, const QString& tienda, QSet<QStrin
     return elegido;
 }
 
-std::unique_ptr<QSaveFile> abre(const QString& nombre)
-{
-    auto fichero = std::make_unique<QSaveFile>(nombre);
-    if (!fichero->open(QIODevice::WriteOnly))
-        noSePuedeEscribir(nombre, motivoDe(*fichero));
-    return fichero;
-}
-
 /// A pipe or a device: it stays what it is, and what is written goes through it.
 bool esEspecial(const QString& nombre)
 {
@@ -80,36 +67,50 @@ void escribePorEl(const QString& nombre, const EscritorInformes& escritor, std::
 {
     QFile fichero{nombre};
     if (!fichero.open(QIODevice::WriteOnly))
-        noSePuedeEscribir(nombre, motivoDe(fichero));
+        report::noSePuedeEscribir(nombre, motivoDe(fichero));
     escribeEn(fichero, escritor, informes);
     if (!fichero.flush())
-        noSePuedeEscribir(nombre, motivoDe(fichero));
+        report::noSePuedeEscribir(nombre, motivoDe(fichero));
 }
 
-using Ficheros = std::vector<std::unique_ptr<QSaveFile>>;
-
-/// One file for each part of a report.
-void escribePartes(Ficheros& ficheros, const QString& nombre, const EscritorInformes& escritor, const CuerpoInforme& informe)
+/// A part of a report and the file that it becomes.
+struct Entrega
 {
-    const int partes = static_cast<int>(informe.partes.size());
-    for (int parte = 0; parte < partes; ++parte) {
-        ficheros.push_back(abre(report::ficheroDePagina(nombre, parte, partes)));
-        escribeTodo(*ficheros.back(), escritor.principio());
-        copia(informe.partes[parte], *ficheros.back());
-        escribeTodo(*ficheros.back(), escritor.final());
-    }
-}
+    QString destino;
+    QString parte;
+};
 
-void escribeFicherosNuevos(const QString& nombre, const EscritorInformes& escritor, std::span<const CuerpoInforme> informes)
+/// One file for each part of each report. ErrorDeSalida when something is in the way of one of them.
+std::vector<Entrega> entregasDe(const QString& nombre, std::span<const CuerpoInforme> informes)
 {
-    Ficheros ficheros;
+    std::vector<Entrega> entregas;
     QSet<QString> dados;
     for (const CuerpoInforme& informe : informes) {
         const QString suyo = informes.size() == 1 ? nombre : conTiendaNueva(nombre, informe.tienda, dados);
-        escribePartes(ficheros, suyo, escritor, informe);
+        const int partes = static_cast<int>(informe.partes.size());
+        for (int parte = 0; parte < partes; ++parte)
+            entregas.push_back({destinoDeEscritura(report::ficheroDePagina(suyo, parte, partes)), informe.partes[parte]});
     }
-    for (const auto& fichero : ficheros)
-        confirma(*fichero);
+    return entregas;
+}
+
+/// Each file is closed before the next one is opened: a report may have more pages than a process may have files.
+void escribeFicherosNuevos(const QString& nombre, const EscritorInformes& escritor, std::span<const CuerpoInforme> informes)
+{
+    const std::vector<Entrega> entregas = entregasDe(nombre, informes);
+    if (entregas.empty())
+        return;
+    const report::CarpetaProvisional carpeta{entregas.front().destino};
+    const auto provisional = [](size_t entrega) { return QString::number(entrega); };
+    for (size_t entrega = 0; entrega < entregas.size(); ++entrega) {
+        carpeta.escribe(provisional(entrega), entregas[entrega].destino, [&](QFile& fichero) {
+            escribeTodo(fichero, escritor.principio());
+            copia(entregas[entrega].parte, fichero);
+            escribeTodo(fichero, escritor.final());
+        });
+    }
+    for (size_t entrega = 0; entrega < entregas.size(); ++entrega)
+        carpeta.entrega(provisional(entrega), entregas[entrega].destino);
 }
 
 /// The files of all reports, which are to stand in one document.
@@ -145,9 +146,9 @@ void escribeFicheros(const QString& nombre, const EscritorInformes& escritor, st
 void compruebaQueSePuedeEscribir(const QString& nombre)
 {
     if (!esEspecial(nombre))
-        return abre(nombre)->cancelWriting();
+        return static_cast<void>(report::CarpetaProvisional{destinoDeEscritura(nombre)});
     if (!QFileInfo{nombre}.isWritable())
-        noSePuedeEscribir(nombre, u"sin permiso"_s);
+        report::noSePuedeEscribir(nombre, u"sin permiso"_s);
 }
 
 } // namespace kestrane::lote

@@ -8,9 +8,12 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <stdexcept>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace kestrane::instalacion {
 namespace {
@@ -189,6 +192,28 @@ TEST_F(ObraEnFichero, AFolderThatCannotBeWrittenIsToldWithWhatToDo)
         EXPECT_TRUE(error.descripcion().startsWith(u"No se puede escribir la base de datos \"")) << error.what();
         EXPECT_TRUE(error.descripcion().contains(u"elija con --datos una carpeta")) << error.what();
     }
+}
+
+TEST_F(ObraEnFichero, APipeInItsPlaceStaysAPipe)
+{
+    ASSERT_EQ(mkfifo(QFile::encodeName(ruta(u"L.db"_s)).constData(), 0600), 0);
+    EXPECT_THROW(obraEnFichero(baseListados(), ruta(u"L.db"_s))->construye({}), ErrorEjecucion);
+    struct stat estado = {};
+    ASSERT_EQ(stat(QFile::encodeName(ruta(u"L.db"_s)).constData(), &estado), 0);
+    EXPECT_TRUE(S_ISFIFO(estado.st_mode));
+}
+
+TEST_F(ObraEnFichero, ALinkStaysAndLeadsToTheNewFile)
+{
+    ASSERT_EQ(symlink("otra.db", QFile::encodeName(ruta(u"L.db"_s)).constData()), 0);
+    const auto obra = obraEnFichero(baseListados(), ruta(u"L.db"_s));
+    obra->construye({});
+    obra->termina();
+    obra->confirma();
+    EXPECT_TRUE(QFileInfo{ruta(u"L.db"_s)}.isSymLink());
+    QFile escrita{ruta(u"otra.db"_s)};
+    ASSERT_TRUE(escrita.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(escrita.read(15) == "SQLite format 3");
 }
 
 } // namespace

@@ -9,6 +9,8 @@
 #include <QDir>
 #include <QFile>
 
+#include <sys/stat.h>
+
 namespace kestrane::lote {
 namespace {
 
@@ -196,6 +198,18 @@ TEST_F(CopiaListadosTest, AFolderThatDoesNotTakeItIsToldWhenItIsKept)
     const CopiaListados copia{en(m_tienda.carpeta()), carpeta};
     ASSERT_TRUE(QDir{}.mkpath(carpeta + u"/ListKestrane.db/dentro"_s));
     EXPECT_THROW(copia.conserva(), ErrorEjecucion);
+}
+
+TEST_F(CopiaListadosTest, APipeInItsPlaceStaysAPipe)
+{
+    const QString carpeta = otra(u"copia"_s);
+    const CopiaListados copia{en(m_tienda.carpeta()), carpeta};
+    const QString tubo = carpeta + u"/ListKestrane.db"_s;
+    ASSERT_EQ(mkfifo(QFile::encodeName(tubo).constData(), 0600), 0);
+    EXPECT_THROW(copia.conserva(), ErrorEjecucion);
+    struct stat estado = {};
+    ASSERT_EQ(stat(QFile::encodeName(tubo).constData(), &estado), 0);
+    EXPECT_TRUE(S_ISFIFO(estado.st_mode));
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "lote/ficheros_salida.h"
 
+#include "apoyo/limite_de_abiertos.h"
 #include "apoyo/limite_de_fichero.h"
 #include "lote/peticion_imposible.h"
 #include "platform/runtime/error_de_salida.h"
@@ -12,6 +13,7 @@
 #include <QTemporaryDir>
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace kestrane::lote {
 namespace {
@@ -173,6 +175,46 @@ TEST_F(FicherosSalida, WhenOneOfSeveralCannotBeWrittenNoneIs)
     ASSERT_TRUE(QDir{m_carpeta.path()}.mkdir(u"caja-Centro.json"_s));
     EXPECT_THROW(escribe(u"caja.json"_s), ErrorDeSalida);
     EXPECT_EQ(ficheros(), QStringList{});
+}
+
+TEST_F(FicherosSalida, APipeInThePlaceOfAPageStaysAndKeepsAllPagesOff)
+{
+    informe(u"Sur"_s, QByteArrayList{"a", "b"});
+    const QString tubo = ruta(u"caja_002.png"_s);
+    ASSERT_EQ(mkfifo(QFile::encodeName(tubo).constData(), 0600), 0);
+    try {
+        escribe(u"caja.png"_s);
+        FAIL() << "it was written";
+    } catch (const ErrorDeSalida& error) {
+        EXPECT_EQ(error.motivo(), u"\"%1\": no es un fichero"_s.arg(tubo));
+    }
+    EXPECT_EQ(QDir{m_carpeta.path()}.entryList(QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot),
+              QStringList{u"caja_002.png"_s});
+    EXPECT_FALSE(QFileInfo{tubo}.isFile());
+}
+
+TEST_F(FicherosSalida, ALinkStaysAndItsFileIsWritten)
+{
+    QTemporaryDir otra;
+    ASSERT_EQ(symlink(QFile::encodeName(otra.filePath(u"z"_s)).constData(), QFile::encodeName(ruta(u"caja.json"_s)).constData()),
+              0);
+    informe({}, "a");
+    compruebaQueSePuedeEscribir(ruta(u"caja.json"_s));
+    escribe(u"caja.json"_s);
+    EXPECT_TRUE(QFileInfo{ruta(u"caja.json"_s)}.isSymLink());
+    QFile escrito{otra.filePath(u"z"_s)};
+    ASSERT_TRUE(escrito.open(QIODevice::ReadOnly));
+    EXPECT_EQ(escrito.readAll(), "<a>");
+}
+
+TEST_F(FicherosSalida, MorePagesThanFilesMayBeOpen)
+{
+    informe({}, QByteArrayList(150, "p"));
+    const prueba::LimiteDeAbiertos limite{100};
+    escribe(u"caja.png"_s);
+    const QStringList todos = ficheros();
+    ASSERT_EQ(todos.size(), 150);
+    EXPECT_TRUE(todos.contains(u"caja_150.png=<p>"_s));
 }
 
 TEST_F(FicherosSalida, ADiskThatDoesNotTakeTheLastBytesLeavesNothing)

@@ -34,6 +34,7 @@ constexpr Motivo Motivos[] = {
     {std::errc::too_many_files_open, u"hay demasiados ficheros abiertos"},
     {std::errc::too_many_files_open_in_system, u"hay demasiados ficheros abiertos"},
     {std::errc::too_many_symbolic_link_levels, u"los enlaces de la ruta no acaban"},
+    {std::errc::cross_device_link, u"está en otro disco"},
 };
 
 struct MotivoDeQt

@@ -9,6 +9,7 @@
 #include "platform/report/export/png.h"
 #include "platform/report/export/xlsx.h"
 #include "platform/runtime/error_de_salida.h"
+#include "platform/runtime/fichero_destino.h"
 #include "platform/runtime/motivo_sistema.h"
 
 #include <QSaveFile>
@@ -22,7 +23,7 @@ using Escritura = std::function<bool(QIODevice&)>;
 /// A file that takes its name when `escribe` has written it and the disk has taken all of it.
 bool escribeFichero(const QString& nombre, const Escritura& escribe)
 {
-    QSaveFile fichero{nombre};
+    QSaveFile fichero{destinoDeEscritura(nombre)};
     if (!fichero.open(QIODevice::WriteOnly))
         noSePuedeEscribir(nombre, motivoDe(fichero));
     if (!escribe(fichero))

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <QFile>
 #include <QString>
 #include <QTemporaryDir>
+
+#include <functional>
 
 namespace kestrane::report {
 
@@ -15,7 +18,11 @@ public:
 
     [[nodiscard]] QString ruta(const QString& nombre) const { return m_carpeta.filePath(nombre); }
     [[nodiscard]] QString ruta() const { return m_carpeta.path(); }
-    /// Gives the file `nombre` of the folder its place and name, over what lay there. ErrorDeSalida.
+    /// Makes a file of the folder, which `escritura` fills and which is closed when the disk has taken it. ErrorDeSalida that names
+    /// `destino`, the name that it is to have.
+    void escribe(const QString& nombre, const QString& destino, const std::function<void(QFile&)>& escritura) const;
+    /// Gives the file `nombre` of the folder its place and name, over the file that lay there and with its permissions; of a link,
+    /// where it leads to. ErrorDeSalida, also where something else than a file lies.
     void entrega(const QString& nombre, const QString& destino) const;
 
 private:

@@ -3,11 +3,11 @@
 #include "platform/report/export/avance_exportacion.h"
 #include "platform/report/export/fichero_provisional.h"
 #include "platform/runtime/error_de_salida.h"
-#include "platform/runtime/motivo_sistema.h"
+#include "platform/runtime/fichero_destino.h"
 
 #include <QBuffer>
-#include <QFile>
 #include <QFileInfo>
+#include <QStringList>
 
 namespace kestrane::report {
 
@@ -27,11 +27,13 @@ QByteArray comoPng(const QImage& imagen)
     return bytes;
 }
 
-void escribeFichero(const QString& ruta, const QByteArray& bytes, const QString& destino)
+/// Where each page ends up: known before the first one is painted, so that what is in the way of one keeps all of them off.
+QStringList destinosDe(const QString& fichero, int paginas)
 {
-    QFile fichero{ruta};
-    if (!fichero.open(QIODevice::WriteOnly) || fichero.write(bytes) != bytes.size() || !fichero.flush())
-        noSePuedeEscribir(destino, motivoDe(fichero));
+    QStringList destinos;
+    for (int indice = 0; indice < paginas; ++indice)
+        destinos += destinoDeEscritura(ficheroDePagina(fichero, indice, paginas));
+    return destinos;
 }
 
 } // namespace
@@ -62,17 +64,18 @@ QString ficheroDePagina(const QString& fichero, int indice, int paginas)
 
 bool escribePng(const PaginasInforme& paginas, const QString& fichero, const AvanceExportacion& avance, int puntosPorPulgada)
 {
-    const CarpetaProvisional carpeta{fichero};
+    const QStringList destinos = destinosDe(fichero, paginas.paginas);
+    const CarpetaProvisional carpeta{destinos.value(0, fichero)};
     for (int indice = 0; indice < paginas.paginas; ++indice) {
         if (!sigue(avance, indice, paginas.paginas))
             return false;
         const QByteArray imagen = comoPng(dibujaPagina(paginas, indice, puntosPorPulgada));
-        escribeFichero(carpeta.ruta(QString::number(indice)), imagen, fichero);
+        carpeta.escribe(QString::number(indice), fichero, [&imagen](QFile& destino) { escribeTodo(destino, imagen); });
     }
     if (!sigue(avance, 1, 1))
         return false;
     for (int indice = 0; indice < paginas.paginas; ++indice)
-        carpeta.entrega(QString::number(indice), ficheroDePagina(fichero, indice, paginas.paginas));
+        carpeta.entrega(QString::number(indice), destinos[indice]);
     return true;
 }
 

@@ -3,6 +3,7 @@
 #include "platform/report/export/fichero_provisional.h"
 #include "platform/report/export/libro_xlsx.h"
 #include "platform/report/export/recorrido_tabla.h"
+#include "platform/runtime/fichero_destino.h"
 
 namespace kestrane::report {
 
@@ -78,7 +79,7 @@ private:
 
 bool escribeXlsx(const TablaInforme& tabla, const QString& fichero, const AvanceExportacion& avance)
 {
-    const CarpetaProvisional carpeta{fichero};
+    const CarpetaProvisional carpeta{destinoDeEscritura(fichero)};
     const QString nombre = u"libro.xlsx"_s;
     LibroXlsx libro{carpeta.ruta(nombre), carpeta.ruta(), tabla.titulo()};
     HojaInforme hoja{tabla, libro};

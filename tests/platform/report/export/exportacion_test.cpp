@@ -12,6 +12,9 @@
 #include <QProcess>
 #include <QRegularExpression>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 namespace kestrane::report {
 namespace {
 
@@ -106,6 +109,47 @@ TEST_F(Exporta, ADiskThatIsFullIsAnErrorInEachFormatAndLeavesNothing)
         const LimiteDeFichero limite{1000};
         EXPECT_THROW(exporta(documento, formato, ruta(u"a"_s)), ErrorDeSalida) << static_cast<int>(formato);
         EXPECT_EQ(nombres(), QStringList{}) << static_cast<int>(formato);
+    }
+}
+
+TEST_F(Exporta, APipeStaysAPipeInEachFormat)
+{
+    filas(1);
+    const QByteArray tubo = QFile::encodeName(ruta(u"a"_s));
+    ASSERT_EQ(mkfifo(tubo.constData(), 0600), 0);
+    for (const FormatoExportacion formato : Todos) {
+        EXPECT_EQ(motivo(u"a"_s, formato), u"\"%1\": no es un fichero"_s.arg(ruta(u"a"_s)));
+        struct stat estado = {};
+        ASSERT_EQ(stat(tubo.constData(), &estado), 0);
+        EXPECT_TRUE(S_ISFIFO(estado.st_mode)) << static_cast<int>(formato);
+        EXPECT_EQ(nombres().size(), 0) << "pipes are not listed; nothing else is left";
+    }
+}
+
+TEST_F(Exporta, AFolderInTheFilesPlaceIsAnErrorInEachFormat)
+{
+    filas(1);
+    ASSERT_TRUE(QDir{m_carpeta.path()}.mkdir(u"a"_s));
+    for (const FormatoExportacion formato : Todos)
+        EXPECT_EQ(motivo(u"a"_s, formato), u"\"%1\": es una carpeta"_s.arg(ruta(u"a"_s)));
+}
+
+TEST_F(Exporta, ALinkStaysAndItsFileIsWrittenInEachFormat)
+{
+    filas(1);
+    ASSERT_TRUE(QDir{m_carpeta.path()}.mkdir(u"otra"_s));
+    ASSERT_EQ(symlink("otra/fichero", QFile::encodeName(ruta(u"a"_s)).constData()), 0);
+    for (const FormatoExportacion formato : Todos) {
+        QFile viejo{ruta(u"otra/fichero"_s)};
+        ASSERT_TRUE(viejo.open(QIODevice::WriteOnly));
+        viejo.write("viejo");
+        viejo.close();
+        ASSERT_TRUE(exportaA(u"a"_s, formato));
+        EXPECT_TRUE(QFileInfo{ruta(u"a"_s)}.isSymLink()) << static_cast<int>(formato);
+        EXPECT_GT(lee(u"otra/fichero"_s).size(), 30) << static_cast<int>(formato);
+        EXPECT_EQ(nombres(), (QStringList{u"a"_s, u"otra"_s}));
+        EXPECT_EQ(QDir{ruta(u"otra"_s)}.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+                  QStringList{u"fichero"_s});
     }
 }
 

@@ -1,5 +1,6 @@
 #include "platform/report/export/fichero_provisional.h"
 
+#include "apoyo/limite_de_fichero.h"
 #include "platform/runtime/error_de_salida.h"
 
 #include <gtest/gtest.h>
@@ -63,6 +64,32 @@ TEST(CarpetaProvisional, WhatIsHandedOverTakesThePlaceOfWhatLayThere)
     }
     EXPECT_EQ(nombresEn(carpeta), QStringList{u"año.xlsx"_s});
     EXPECT_EQ(lee(carpeta.filePath(u"año.xlsx"_s)), "nuevo");
+}
+
+TEST(CarpetaProvisional, AFileKeepsThePermissionsOfTheOneBeforeIt)
+{
+    const QTemporaryDir carpeta;
+    escribe(carpeta.filePath(u"a.xlsx"_s), "viejo");
+    constexpr QFile::Permissions Suyos =
+        QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser | QFile::ReadOther;
+    ASSERT_TRUE(QFile::setPermissions(carpeta.filePath(u"a.xlsx"_s), Suyos));
+    const CarpetaProvisional provisional{carpeta.filePath(u"a.xlsx"_s)};
+    escribe(provisional.ruta(u"uno"_s), "nuevo");
+    provisional.entrega(u"uno"_s, carpeta.filePath(u"a.xlsx"_s));
+    EXPECT_EQ(QFile::permissions(carpeta.filePath(u"a.xlsx"_s)), Suyos);
+}
+
+TEST(CarpetaProvisional, ADiskThatIsFullIsAnErrorThatNamesTheFileToBe)
+{
+    const QTemporaryDir carpeta;
+    const CarpetaProvisional provisional{carpeta.filePath(u"a.png"_s)};
+    const prueba::LimiteDeFichero limite{1000};
+    try {
+        provisional.escribe(u"uno"_s, u"a.png"_s, [](QFile& fichero) { fichero.write(QByteArray(2000, 'x')); });
+        FAIL() << "it was taken";
+    } catch (const ErrorDeSalida& error) {
+        EXPECT_EQ(error.motivo(), u"\"a.png\": el fichero sería demasiado grande"_s);
+    }
 }
 
 TEST(CarpetaProvisional, AFolderInTheFilesPlaceIsAnError)

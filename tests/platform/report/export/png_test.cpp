@@ -1,5 +1,6 @@
 #include "platform/report/export/png.h"
 
+#include "apoyo/limite_de_abiertos.h"
 #include "platform/report/export/paginas_de_prueba.h"
 #include "platform/runtime/error_de_salida.h"
 
@@ -56,6 +57,20 @@ TEST_F(Png, SeveralHaveTheirNumber)
     EXPECT_EQ(nombres().constLast(), u"a_011.png"_s);
     EXPECT_EQ(ficheroDePagina(u"/b.c/a"_s, 4, 2000), u"/b.c/a_005"_s);
     EXPECT_EQ(ficheroDePagina(u"a.png"_s, 1234, 2000), u"a_1235.png"_s);
+}
+
+TEST_F(Png, WhatIsInTheWayOfOnePageKeepsAllOfThemOff)
+{
+    ASSERT_TRUE(QDir{m_carpeta.path()}.mkdir(u"a_002.png"_s));
+    EXPECT_THROW(escribePng(paginasDePrueba({{20, 20}, {20, 20}}), ruta(u"a.png"_s), {}, 30), ErrorDeSalida);
+    EXPECT_EQ(nombres(), QStringList{u"a_002.png"_s});
+}
+
+TEST_F(Png, MorePagesThanFilesMayBeOpen)
+{
+    const prueba::LimiteDeAbiertos limite{100};
+    EXPECT_TRUE(escribePng(paginasDePrueba(std::vector<QSizeF>(150, QSizeF{5, 5})), ruta(u"a.png"_s), {}, 30));
+    EXPECT_EQ(nombres().size(), 150);
 }
 
 TEST_F(Png, ThePictureIsTheWhitePaperAtItsScale)
