@@ -57,7 +57,7 @@ Valor dePack(const QString& campo, int fila)
 {
     const int pack = fila / ServiciosPorPack;
     if (campo == u"texto8")
-        return QStringList{u"Dia 10"_s, u"Dia 2"_s, u"Dia 1"_s}[fila % ServiciosPorPack];
+        return QStringList{u"Dia 10"_s, u"Dia 3"_s, u"Dia 2"_s, u"Dia 1"_s}[fila % ServiciosPorPack];
     if (campo == u"texto2")
         return u"Pack ñ"_s + QString::number(pack + 1).rightJustified(4, u'0');
     if (campo == u"texto7")

@@ -35,7 +35,7 @@ struct Listado
 /// The twelve that are delivered.
 [[nodiscard]] const std::vector<Listado>& listadosEntregados();
 
-constexpr int ServiciosPorPack = 3;
+constexpr int ServiciosPorPack = 4; ///< so that some packs go on on the next page
 inline const QString Empresa = QStringLiteral("Peluquería Ñandú, S.L.");
 inline const QString Direccion = QStringLiteral("Calle de Íñigo, 3");
 
