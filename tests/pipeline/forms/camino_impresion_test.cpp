@@ -115,6 +115,9 @@ TEST_F(CaminoImpresion, RowsComeOutOfTheQueueThatWasChosenByItsExactName)
     EXPECT_EQ(servidor.trabajo(1).cola, u"Tickets"_s);
     EXPECT_EQ(servidor.trabajo(1).titulo, u"Secciones"_s);
     EXPECT_THAT(paginas(1), testing::ElementsAre(u"Sección A Sección B Sección C Sección D"_s, u"Sección E Sección F"_s));
+    salida.DarImpresora(u"tickets"_s);
+    EXPECT_EQ(imprimeDesdeLaVista(), u"Laser"_s) << "not in the list: the default printer";
+    EXPECT_EQ(servidor.trabajo(2).cola, u"Laser"_s);
 }
 
 } // namespace

@@ -27,7 +27,7 @@ struct RecuerdoVista
     Zoom zoom;
     bool panel = true;
     QString carpeta;   ///< where something was exported to last
-    QString impresora; ///< that was printed on last
+    QString impresora; ///< that the operator chose last
 };
 
 /// Asks where to export to, `propuesto` being a name with its ending; "" when the operator would rather not.

@@ -106,7 +106,8 @@ void VentanaVista::imprime()
 
 void VentanaVista::imprime(const PeticionImpresion& peticion)
 {
-    m_recuerdo.impresora = peticion.impresora;
+    if (peticion.impresora != m_impresora) // what the program chose for this report is nothing to offer for the next
+        m_recuerdo.impresora = peticion.impresora;
     trabaja(u"Imprimiendo"_s, u"El informe se ha enviado a la impresora %1."_s.arg(peticion.impresora),
             [this, &peticion](const AvanceExportacion& avance) {
                 return completa(avance) && m_servicios.impresion->imprime(*m_fuente, peticion, avance);
