@@ -37,7 +37,8 @@ void Compositor::pon(const Obra& obra, const Texto& texto, const ElementoEnlazad
     if (texto.crece) {
         const TextoMedido& medido = obra.banda.textos[indice];
         ponFondo(obra, texto, m_estilos.estilo(medido.estilo).fondo);
-        return ponCrecido(obra, texto, medido);
+        const bool conNumeros = elemento.valor.usaPagina() || elemento.valor.usaPaginas();
+        return ponCrecido(obra, texto, conNumeros ? m_medidor.conNumeros(medido, elemento, obra.ambito) : medido);
     }
     const int estilo = estiloDe(elemento, obra.ambito, m_regional);
     ponFondo(obra, texto, m_estilos.estilo(estilo).fondo);

@@ -47,8 +47,9 @@ int estiloDe(const ElementoEnlazado& elemento, const AmbitoExpresion& ambito, co
 std::optional<BandaMedida> MedidorBandas::mide(const InformeEnlazado& informe, const BandaEnlazada& banda,
                                                const Contexto& contexto) const
 {
+    const Contexto sinTotal{contexto.fila, contexto.pagina, 0};
     if (!banda.mostrar.vacia() && !banda.mostrar.usaPaginas() &&
-        !banda.mostrar.cierto(AmbitoFila{informe.filas(), contexto}, m_regional))
+        !banda.mostrar.cierto(AmbitoFila{informe.filas(), sinTotal}, m_regional))
         return std::nullopt;
     BandaMedida medida{&banda, banda.banda->alto, {}, {}};
     if (banda.deAltoFijo)
@@ -57,15 +58,39 @@ std::optional<BandaMedida> MedidorBandas::mide(const InformeEnlazado& informe, c
     medida.visibles.resize(banda.elementos.size());
     for (size_t i = 0; i < banda.elementos.size(); ++i) {
         const ElementoEnlazado& elemento = banda.elementos[i];
-        if (!elemento.mostrar.cierto(AmbitoFila{informe.filas(), contexto}, m_regional))
+        if (!elemento.mostrar.usaPaginas() && !elemento.mostrar.cierto(AmbitoFila{informe.filas(), sinTotal}, m_regional))
             continue;
         medida.visibles[i] = true;
         if (elemento.subinforme)
             mideSubinforme(elemento, medida);
         else
-            mideTexto(informe, elemento, contexto, medida, medida.textos[i]);
+            mideTexto(informe, elemento, sinTotal, medida, medida.textos[i]);
     }
     return medida;
+}
+
+std::vector<Renglon> MedidorBandas::renglonesDe(const ElementoEnlazado& elemento, int estilo, const AmbitoExpresion& ambito) const
+{
+    const auto& texto = std::get<Texto>(*elemento.elemento);
+    const QString escrito = escribeValor(elemento.valor.valor(ambito, m_regional), texto.formato, m_regional);
+    return parteEnRenglones(m_estilos.medida(estilo), escrito, texto.caja.width());
+}
+
+TextoMedido MedidorBandas::conNumeros(const TextoMedido& medido, const ElementoEnlazado& elemento,
+                                      const AmbitoExpresion& ambito) const
+{
+    TextoMedido nuevo = medido;
+    nuevo.renglones = renglonesDe(elemento, medido.estilo, ambito);
+    const size_t caben = medido.renglones.size();
+    if (caben == 0 || nuevo.renglones.size() <= caben)
+        return nuevo;
+    QString resto;
+    for (size_t i = caben - 1; i < nuevo.renglones.size(); ++i)
+        resto += nuevo.renglones[i].texto + u' ';
+    nuevo.renglones.resize(caben);
+    nuevo.renglones.back() =
+        cortaRenglon(m_estilos.medida(medido.estilo), resto.trimmed(), std::get<Texto>(*elemento.elemento).caja.width());
+    return nuevo;
 }
 
 void MedidorBandas::mideTexto(const InformeEnlazado& informe, const ElementoEnlazado& elemento, const Contexto& contexto,
@@ -77,8 +102,7 @@ void MedidorBandas::mideTexto(const InformeEnlazado& informe, const ElementoEnla
     const AmbitoFila ambito{informe.filas(), contexto};
     destino.estilo = estiloDe(elemento, ambito, m_regional);
     const MedidaEstilo& letras = m_estilos.medida(destino.estilo);
-    const QString escrito = escribeValor(elemento.valor.valor(ambito, m_regional), texto->formato, m_regional);
-    destino.renglones = parteEnRenglones(letras, escrito, texto->caja.width());
+    destino.renglones = renglonesDe(elemento, destino.estilo, ambito);
     destino.altoRenglon = letras.altoRenglon();
     destino.arriba = arribaDeRenglones(*texto, m_estilos.estilo(destino.estilo).vertical, destino);
     // What stands below the box goes down with its bottom.

@@ -67,10 +67,13 @@ class MedidorBandas
 public:
     MedidorBandas(const TablaEstilos& estilos, const ConfiguracionRegional& regional) : m_estilos{estilos}, m_regional{regional} {}
 
-    /// Nothing when the band does not show for this row. One whose showing depends on the number of pages, which is not known
-    /// while pages are cut, takes its room in any case.
+    /// Nothing when the band does not show for this row. The number of pages is not known while pages are cut, and heights never
+    /// depend on it: what shows by it takes its room in any case.
     [[nodiscard]] std::optional<BandaMedida> mide(const InformeEnlazado& informe, const BandaEnlazada& banda,
                                                   const Contexto& contexto) const;
+    /// A text that grows, with the numbers of the page on which it stands: within the lines that it was measured with.
+    [[nodiscard]] TextoMedido conNumeros(const TextoMedido& medido, const ElementoEnlazado& elemento,
+                                         const AmbitoExpresion& ambito) const;
     /// All bands of a section that show for this row.
     [[nodiscard]] double alto(const InformeEnlazado& informe, const SeccionEnlazada& seccion, const Contexto& contexto) const;
     /// Cuts a band of which all lines that end above `hecho` are placed, so that none ends below `hasta`.
@@ -92,6 +95,8 @@ private:
 
     void recorreUnidades(const BandaMedida& banda, double hecho, double hasta, double origen, const Unidad& visita) const;
 
+    [[nodiscard]] std::vector<Renglon> renglonesDe(const ElementoEnlazado& elemento, int estilo,
+                                                   const AmbitoExpresion& ambito) const;
     void mideTexto(const InformeEnlazado& informe, const ElementoEnlazado& elemento, const Contexto& contexto, BandaMedida& medida,
                    TextoMedido& destino) const;
     void mideSubinforme(const ElementoEnlazado& elemento, BandaMedida& medida) const;

@@ -203,5 +203,72 @@ TEST(HojaCrece, ALongSubreportIsFoundAgainFromItsMiddle)
     }
 }
 
+/// A text that is one line as long as the number of pages is not known, and three once it is.
+LayoutDePrueba conTotalQueCrece(double alto)
+{
+    LayoutDePrueba prueba;
+    prueba.altoUtil(alto);
+    Banda banda;
+    banda.alto = 10;
+    banda.elementos.emplace_back(
+        prueba.crece(u"'fila ' & n & si(nulo(paginas); ''; ' de ' & paginas & ' mas palabras que no caben')"_s, 30));
+    prueba.layout.detalle.push_back(banda);
+    return prueba;
+}
+
+TEST(HojaCrece, TheNumberOfPagesNeitherLosesNorRepeatsRows)
+{
+    const LayoutDePrueba prueba = conTotalQueCrece(40);
+    QStringList filas;
+    for (const QStringList& textos : PaginasDePrueba{prueba.layout, copiaNumerada(10)}.textos()) {
+        for (const QString& texto : textos)
+            filas << texto.section(u' ', 0, 1);
+    }
+    QStringList esperadas;
+    for (int i = 1; i <= 10; ++i)
+        esperadas << u"fila %1"_s.arg(i);
+    EXPECT_EQ(filas, esperadas);
+}
+
+TEST(HojaCrece, WhatGrowsByTheNumberOfPagesIsCutToItsRoom)
+{
+    const LayoutDePrueba prueba = conTotalQueCrece(40);
+    const auto textos = PaginasDePrueba{prueba.layout, copiaNumerada(10)}.textos();
+    ASSERT_EQ(textos.size(), 3U);
+    EXPECT_TRUE(textos[0][0].startsWith(u"fila 1 de 3 "_s)) << textos[0][0].toStdString();
+    EXPECT_TRUE(textos[0][0].endsWith(u"…@10"_s)) << textos[0][0].toStdString();
+}
+
+TEST(HojaCrece, WhatShowsOnTheLastPageAloneKeepsItsRoom)
+{
+    LayoutDePrueba prueba = conTextos(30);
+    auto& texto = std::get<Texto>(prueba.layout.detalle.front().elementos.front());
+    texto.mostrar = prueba.expresion(u"pagina = paginas"_s);
+    std::vector<QStringList> textos = PaginasDePrueba{prueba.layout, parrafos({5, 5})}.textos();
+    ASSERT_EQ(textos.size(), 2U);
+    EXPECT_TRUE(textos[0].isEmpty());
+    EXPECT_EQ(textos[1].size(), 5);
+}
+
+TEST(HojaCrece, ATextOfASubreportKnowsItsPage)
+{
+    LayoutDePrueba dentro;
+    Banda fila;
+    fila.alto = 10;
+    fila.elementos.emplace_back(dentro.crece(u"n & ' en ' & pagina"_s, 60));
+    dentro.layout.detalle.push_back(fila);
+    dentro.layout.sentencia = u"select dentro"_s;
+    LayoutDePrueba prueba;
+    prueba.altoUtil(20);
+    Subinforme subinforme;
+    subinforme.caja = {0, 0, 100, 0};
+    subinforme.layout = std::make_shared<const Layout>(dentro.layout);
+    Banda banda;
+    banda.elementos.emplace_back(subinforme);
+    prueba.layout.detalle.push_back(banda);
+    const auto textos = PaginasDePrueba{prueba.layout, copiaNumerada(1), {{u"select dentro"_s, copiaNumerada(3)}}}.textos();
+    EXPECT_THAT(textos, ElementsAre(ElementsAre(u"1 en 1@10"_s, u"2 en 1@20"_s), ElementsAre(u"3 en 2@10"_s)));
+}
+
 } // namespace
 } // namespace kestrane::report

@@ -87,6 +87,8 @@ public:
     [[nodiscard]] std::span<const int> columnas() const;
     /// Whether it needs the number of pages.
     [[nodiscard]] bool usaPaginas() const;
+    /// Whether it needs the number of its page.
+    [[nodiscard]] bool usaPagina() const;
 
 private:
     struct Programa;

@@ -83,6 +83,7 @@ struct ExpresionEnlazada::Programa
     LugarLayout lugar;
     std::vector<int> columnas;
     bool usaPaginas = false;
+    bool usaPagina = false;
 
     /// Where a text comes of it, the unknown number of pages reads "..."; in a reckoning it is Null.
     enum class Lugar { EnTexto, EnCuenta };
@@ -90,6 +91,7 @@ struct ExpresionEnlazada::Programa
     NodoEnlazado enlaza(const NodoExpresion& nodo, const QStringList& nombres, Lugar donde = Lugar::EnTexto)
     {
         NodoEnlazado enlazado{nodo.clase, nodo.literal, nodo.indice, nodo.funcion};
+        usaPagina = usaPagina || nodo.clase == ClaseNodo::Pagina;
         if (nodo.clase == ClaseNodo::Paginas) {
             usaPaginas = true;
             enlazado.literal = donde == Lugar::EnTexto ? Valor{u"..."_s} : Valor{};
@@ -160,6 +162,11 @@ std::span<const int> ExpresionEnlazada::columnas() const
 bool ExpresionEnlazada::usaPaginas() const
 {
     return !vacia() && m_programa->usaPaginas;
+}
+
+bool ExpresionEnlazada::usaPagina() const
+{
+    return !vacia() && m_programa->usaPagina;
 }
 
 } // namespace kestrane::report
