@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <new>
 #include <optional>
 
 namespace kestrane {
@@ -32,6 +33,11 @@ public:
             m_error = error;
         } catch (const ErrorDeSalida& error) {
             m_error = ErrorEjecucion{static_cast<ErrorEjecucion::Numero>(DiscoNoAdmiteInforme), error.motivo()};
+        } catch (const std::bad_alloc&) {
+            m_error = ErrorEjecucion{ErrorEjecucion::LayoutIncorrecto, u"No hay memoria suficiente para mostrar el informe."_s};
+        } catch (const std::exception& error) {
+            m_error = ErrorEjecucion{ErrorEjecucion::LayoutIncorrecto,
+                                     u"El informe no se puede mostrar: %1."_s.arg(QString::fromLocal8Bit(error.what()))};
         }
         return *this;
     }

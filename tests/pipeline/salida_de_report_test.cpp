@@ -10,6 +10,8 @@
 #include <QStringList>
 
 #include <functional>
+#include <new>
+#include <stdexcept>
 
 namespace kestrane {
 namespace {
@@ -185,11 +187,22 @@ TEST_F(SalidaDeReportTest, ADiskThatDoesNotTakeTheRowsIsAReportsError)
     EXPECT_EQ(piezas.pasos.filter(u"critico"_s), QStringList{u"critico 20002: no queda espacio en el disco"_s});
 }
 
-TEST_F(SalidaDeReportTest, WhatIsNoErrorOfTheReportRises)
+TEST_F(SalidaDeReportTest, AMachineWithoutMemoryIsToldLikeALayoutThatFails)
 {
     conFila();
     piezas.alActuar = [] { throw std::bad_alloc{}; };
-    EXPECT_THROW(salida.ImprimirReport(u"K_secciones.rpt"_s), std::bad_alloc);
+    salida.ImprimirReport(u"K_secciones.rpt"_s);
+    EXPECT_EQ(piezas.pasos.filter(u"critico"_s),
+              QStringList{u"critico 20001: No hay memoria suficiente para mostrar el informe."_s});
+    EXPECT_EQ(piezas.pasos.count(u"Action 1"_s), 2);
+}
+
+TEST_F(SalidaDeReportTest, WhatALibraryThrowsIsToldLikeALayoutThatFails)
+{
+    conFila();
+    piezas.alActuar = [] { throw std::length_error{"too long"}; };
+    salida.ImprimirReport(u"K_secciones.rpt"_s);
+    EXPECT_EQ(piezas.pasos.filter(u"critico"_s), QStringList{u"critico 20001: El informe no se puede mostrar: too long."_s});
 }
 
 TEST_F(SalidaDeReportTest, StagingTablesThatCannotBeReadEndTheRun)
