@@ -42,7 +42,7 @@ void Lienzo::anadePaginas()
 {
     const int antes = m_geometria.paginas();
     for (int pagina = antes; pagina < m_paginas.fuente().paginas(); ++pagina)
-        m_geometria.anade(m_paginas.fuente().tamano(pagina));
+        m_geometria.anade(m_paginas.tamano(pagina));
     if (m_paginaAvisada < 0)
         ajustaAVentana();
     ajustaBarras();

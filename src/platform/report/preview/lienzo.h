@@ -54,6 +54,8 @@ public:
 
     void avanzaPantalla();
     void retrocedePantalla();
+    /// A screen on or back, or to the first or last page, when that is what a key means; false when it means nothing of it.
+    bool teclaDePaginas(int tecla, Qt::KeyboardModifiers con);
 
 signals:
     void paginaCambiada(int pagina);

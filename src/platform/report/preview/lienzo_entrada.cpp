@@ -66,26 +66,32 @@ void Lienzo::pellizca(const QPinchGesture& gesto)
 
 void Lienzo::keyPressEvent(QKeyEvent* evento)
 {
-    if (evento->modifiers().testFlag(Qt::ControlModifier) || !moverConTecla(evento->key()))
+    const bool conControl = evento->modifiers().testFlag(Qt::ControlModifier);
+    if (!teclaDePaginas(evento->key(), evento->modifiers()) && (conControl || !moverConTecla(evento->key())))
         evento->ignore();
+}
+
+bool Lienzo::teclaDePaginas(int tecla, Qt::KeyboardModifiers con)
+{
+    if (tecla == Qt::Key_Home || tecla == Qt::Key_End) {
+        vaAPagina(tecla == Qt::Key_Home ? 0 : m_geometria.paginas() - 1);
+        return true;
+    }
+    if (con.testFlag(Qt::ControlModifier) || (tecla != Qt::Key_PageDown && tecla != Qt::Key_PageUp))
+        return false;
+    if (tecla == Qt::Key_PageDown)
+        avanzaPantalla();
+    else
+        retrocedePantalla();
+    return true;
 }
 
 bool Lienzo::moverConTecla(int tecla)
 {
     QScrollBar& barra = tecla == Qt::Key_Left || tecla == Qt::Key_Right ? *horizontalScrollBar() : *verticalScrollBar();
     switch (tecla) {
-    case Qt::Key_PageDown:
     case Qt::Key_Space:
         avanzaPantalla();
-        return true;
-    case Qt::Key_PageUp:
-        retrocedePantalla();
-        return true;
-    case Qt::Key_Home:
-        vaAPagina(0);
-        return true;
-    case Qt::Key_End:
-        vaAPagina(m_geometria.paginas() - 1);
         return true;
     case Qt::Key_Down:
     case Qt::Key_Right:

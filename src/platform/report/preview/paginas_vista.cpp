@@ -4,6 +4,7 @@
 #include "platform/runtime/error_ejecucion.h"
 
 #include <memory>
+#include <new>
 
 namespace kestrane::report {
 
@@ -17,6 +18,10 @@ QString motivoDeFallo()
         return error.descripcion();
     } catch (const ErrorDeSalida& error) {
         return error.motivo();
+    } catch (const std::bad_alloc&) {
+        return u"No hay memoria suficiente."_s;
+    } catch (const std::exception& error) {
+        return u"Error inesperado: %1."_s.arg(QString::fromLocal8Bit(error.what()));
     }
 }
 
@@ -30,6 +35,15 @@ const PaginaVista& PaginasVista::vista(int pagina)
     const PaginaVista& vista = *nueva;
     m_cache.insert(pagina, nueva.release());
     return vista;
+}
+
+QSizeF PaginasVista::tamano(int pagina)
+{
+    // The length of a roll's page is known when it has been composed, which may fail.
+    const QString motivo = fallo([&] { m_tamano = m_fuente.tamano(pagina); });
+    if (!motivo.isEmpty())
+        m_alFallar(motivo);
+    return m_tamano;
 }
 
 PaginaCompuesta PaginasVista::compuesta(int pagina)

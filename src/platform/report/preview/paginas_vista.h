@@ -28,6 +28,8 @@ public:
     [[nodiscard]] FuenteVista& fuente() { return m_fuente; }
     /// `pagina` is laid out. Holds until the next call.
     [[nodiscard]] const PaginaVista& vista(int pagina);
+    /// Millimetres of a page that is laid out; those of the page asked for before when it fails.
+    [[nodiscard]] QSizeF tamano(int pagina);
     /// A page for passing use, which is not kept.
     [[nodiscard]] PaginaCompuesta compuesta(int pagina);
     /// Pages have changed: all are composed anew when they are asked for.
@@ -38,10 +40,11 @@ private:
 
     FuenteVista& m_fuente;
     AlFallar m_alFallar;
+    QSizeF m_tamano{210, 297}; ///< of the page whose size was asked for last
     QCache<int, PaginaVista> m_cache{Guardadas};
 };
 
-/// What an operation of the report threw, for the operator; rethrows what is no error of a report.
+/// What an operation of the report threw, for the operator; rethrows what is no exception of a library either.
 [[nodiscard]] QString motivoDeFallo();
 
 /// Runs `operacion`; "" when it went well, else why not.

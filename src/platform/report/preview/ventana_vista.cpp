@@ -1,7 +1,6 @@
 #include "platform/report/preview/ventana_vista.h"
 
 #include <QCloseEvent>
-#include <QCoreApplication>
 
 #include <algorithm>
 #include <chrono>
@@ -152,17 +151,10 @@ void VentanaVista::resizeEvent(QResizeEvent* evento)
 
 void VentanaVista::keyPressEvent(QKeyEvent* evento)
 {
-    // Keys for the pages work from every control that has no use of its own for them.
-    switch (evento->key()) {
-    case Qt::Key_PageUp:
-    case Qt::Key_PageDown:
-    case Qt::Key_Home:
-    case Qt::Key_End:
-        QCoreApplication::sendEvent(m_lienzo, evento);
-        return;
-    default:
+    // Keys for the pages work from every control that has no use of its own for them. Sent on as an event, one that the pages have
+    // no use for either would come back here.
+    if (!m_lienzo->teclaDePaginas(evento->key(), evento->modifiers()))
         QMainWindow::keyPressEvent(evento);
-    }
 }
 
 void VentanaVista::fallaPagina(const QString& motivo)

@@ -36,7 +36,12 @@ public:
             ++hechas;
         return completa();
     }
-    [[nodiscard]] QSizeF tamano(int) override { return papel; }
+    [[nodiscard]] QSizeF tamano(int pagina) override
+    {
+        if (alMedir)
+            alMedir(pagina);
+        return papel;
+    }
     [[nodiscard]] PaginaCompuesta pagina(int pagina) override
     {
         pedidas.insert(pagina);
@@ -87,6 +92,7 @@ public:
     int actualizaciones = 0;
     std::function<void()> alAvanzar;
     std::function<void(int)> alComponer;
+    std::function<void(int)> alMedir;
     std::function<void()> alActualizar;
     std::function<bool(FormatoExportacion, const QString&, const AvanceExportacion&)> alExportar;
 

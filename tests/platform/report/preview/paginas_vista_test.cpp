@@ -6,6 +6,9 @@
 
 #include <gtest/gtest.h>
 
+#include <new>
+#include <stdexcept>
+
 namespace kestrane::report {
 namespace {
 
@@ -55,6 +58,15 @@ TEST_F(PaginasVistaTest, APageThatFailsIsEmptyAndTold)
     EXPECT_EQ(fallos, QStringList{u"División por cero."_s});
 }
 
+TEST_F(PaginasVistaTest, APageWhoseSizeFailsIsToldAndAsLargeAsTheOneBefore)
+{
+    fuente.papel = {80, 500};
+    EXPECT_EQ(paginas.tamano(0), QSizeF(80, 500));
+    fuente.alMedir = [](int) { throw ErrorEjecucion{ErrorEjecucion::DivisionPorCero, u"División por cero."_s}; };
+    EXPECT_EQ(paginas.tamano(1), QSizeF(80, 500));
+    EXPECT_EQ(fallos, QStringList{u"División por cero."_s});
+}
+
 TEST(Fallo, IsTheReasonOfAReportsError)
 {
     EXPECT_EQ(fallo([] {}), QString{});
@@ -62,9 +74,15 @@ TEST(Fallo, IsTheReasonOfAReportsError)
     EXPECT_EQ(fallo([] { throw ErrorDeSalida{u"disco lleno"_s}; }), u"disco lleno"_s);
 }
 
-TEST(Fallo, LetsOtherErrorsRise)
+TEST(Fallo, IsAlsoWhatMemoryAndLibrariesGiveUpWith)
 {
-    EXPECT_THROW(static_cast<void>(fallo([] { throw std::bad_alloc{}; })), std::bad_alloc);
+    EXPECT_EQ(fallo([] { throw std::bad_alloc{}; }), u"No hay memoria suficiente."_s);
+    EXPECT_EQ(fallo([] { throw std::length_error{"too long"}; }), u"Error inesperado: too long."_s);
+}
+
+TEST(Fallo, LetsRiseWhatIsNoError)
+{
+    EXPECT_THROW(static_cast<void>(fallo([] { throw 7; })), int);
 }
 
 } // namespace

@@ -96,6 +96,50 @@ TEST_F(VentanaVistaTest, GoesToAWrittenPageAndTheNearestWhenThereIsNone)
     EXPECT_TRUE(lienzo().hasFocus());
 }
 
+TEST_F(VentanaVistaTest, KeysForThePagesWorkFromOtherControls)
+{
+    abre(5, 5);
+    auto* boton = control<QToolButton>(u"acerca");
+    QTest::keyClick(boton, Qt::Key_End);
+    EXPECT_EQ(lienzo().paginaActual(), 4);
+    QTest::keyClick(boton, Qt::Key_Home);
+    EXPECT_EQ(lienzo().paginaActual(), 0);
+    lienzo().ponZoom({Zoom::Modo::Pagina, 100});
+    QTest::keyClick(boton, Qt::Key_PageDown);
+    EXPECT_EQ(lienzo().paginaActual(), 1);
+}
+
+TEST_F(VentanaVistaTest, ControlHomeAndEndGoToTheFirstAndLastPage)
+{
+    abre(5, 5);
+    tecla(Qt::Key_End, Qt::ControlModifier);
+    EXPECT_EQ(lienzo().paginaActual(), 4);
+    tecla(Qt::Key_Home, Qt::ControlModifier);
+    EXPECT_EQ(lienzo().paginaActual(), 0);
+}
+
+TEST_F(VentanaVistaTest, PageKeysThatMeanNothingWithControlDoNothing)
+{
+    abre(5, 5);
+    tecla(Qt::Key_PageDown, Qt::ControlModifier);
+    tecla(Qt::Key_PageUp, Qt::ControlModifier);
+    EXPECT_EQ(lienzo().paginaActual(), 0);
+}
+
+TEST_F(VentanaVistaTest, ALaterPageOfARollWhoseLengthFailsIsTold)
+{
+    auto nueva = std::make_unique<prueba::FuenteDePrueba>(4, 1);
+    nueva->alMedir = [](int pagina) {
+        if (pagina == 2)
+            throw ErrorEjecucion{ErrorEjecucion::DivisionPorCero, u"División por cero."_s};
+    };
+    abre(std::move(nueva));
+    ASSERT_TRUE(esperaCompleta());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return texto(u"textoAviso").contains(u"División por cero."_s); }));
+    pulsa(u"ultima");
+    EXPECT_EQ(lienzo().paginaActual(), 3);
+}
+
 TEST_F(VentanaVistaTest, FitsTheWidthAndThePage)
 {
     abre(1, 1);
