@@ -126,11 +126,11 @@ QString BarraBusqueda::textoCuenta() const
 {
     if (!m_buscador.activo())
         return {};
-    const QString puntos = m_buscador.terminado() ? u""_s : u"…"_s;
     if (m_buscador.cuenta() == 0)
-        return m_buscador.terminado() ? u"Ningún acierto"_s : u"Buscando…"_s;
-    const QString total = m_buscador.cuenta() >= Buscador::MaximoAciertos ? u"más de %1"_s.arg(Buscador::MaximoAciertos)
-                                                                          : QString::number(m_buscador.cuenta());
+        return m_buscador.definitivo() ? u"Ningún acierto"_s : u"Buscando…"_s;
+    const bool demasiados = m_buscador.cuenta() >= Buscador::MaximoAciertos;
+    const QString puntos = demasiados || m_buscador.definitivo() ? u""_s : u"…"_s;
+    const QString total = demasiados ? u"más de %1"_s.arg(Buscador::MaximoAciertos) : QString::number(m_buscador.cuenta());
     return m_buscador.actual() < 0 ? total + puntos : u"%1 de %2%3"_s.arg(m_buscador.actual() + 1).arg(total, puntos);
 }
 

@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <chrono>
+#include <optional>
+#include <tuple>
+#include <utility>
 
 namespace kestrane::report {
 
@@ -20,8 +23,11 @@ Buscador::Buscador(PaginasVista& paginas, QObject* padre) : QObject{padre}, m_pa
 
 void Buscador::busca(const QString& texto, int desdePagina)
 {
+    m_turno.stop();
     m_buscado = pliega(texto.trimmed()).texto;
     m_aciertos.clear();
+    m_repasados.clear();
+    m_enRepaso = m_sinTotal = false;
     m_siguientePagina = 0;
     m_desdePagina = desdePagina;
     m_actual = -1;
@@ -33,15 +39,55 @@ void Buscador::sigue()
 {
     if (!activo())
         return;
-    if (terminado())
-        eligePrimero();
-    else if (!m_turno.isActive())
-        m_turno.start(0); // begun anew each time pages come it would never be its turn
+    if (m_sinTotal && m_paginas.fuente().completa())
+        repasa();
+    if (!terminado()) {
+        if (!m_turno.isActive())
+            m_turno.start(0); // begun anew each time pages come it would never be its turn
+        return;
+    }
+    eligePrimero();
+    if (definitivo())
+        emit haCambiado();
+}
+
+void Buscador::repasa()
+{
+    m_sinTotal = false;
+    m_enRepaso = true;
+    m_repasados.clear();
+    m_siguientePagina = 0;
+}
+
+void Buscador::acabaRepaso()
+{
+    m_enRepaso = false;
+    const std::optional<Acierto> antes = m_actual < 0 ? std::nullopt : std::optional{m_aciertos[m_actual]};
+    m_aciertos = std::exchange(m_repasados, {});
+    if (!antes)
+        return;
+    // The current hit stays the current one, or the nearest behind it does.
+    const auto lugar = std::lower_bound(m_aciertos.begin(), m_aciertos.end(), *antes, [](const Acierto& a, const Acierto& b) {
+        return std::tie(a.pagina, a.tramo, a.trecho.desde) < std::tie(b.pagina, b.tramo, b.trecho.desde);
+    });
+    m_actual = std::min(int(lugar - m_aciertos.begin()), cuenta() - 1);
+}
+
+void Buscador::ponIncompleto(bool incompleto)
+{
+    m_incompleto = incompleto;
+    emit haCambiado();
 }
 
 bool Buscador::terminado() const
 {
-    return cuenta() >= MaximoAciertos || m_siguientePagina >= m_paginas.fuente().paginas();
+    const auto& aciertos = m_enRepaso ? m_repasados : m_aciertos;
+    return int(aciertos.size()) >= MaximoAciertos || m_siguientePagina >= m_paginas.fuente().paginas();
+}
+
+bool Buscador::definitivo() const
+{
+    return terminado() && !m_enRepaso && (m_incompleto || (m_paginas.fuente().completa() && !m_sinTotal));
 }
 
 std::span<const Acierto> Buscador::enPagina(int pagina) const
@@ -60,8 +106,11 @@ void Buscador::avanza()
             break;
         buscaEnPagina(m_siguientePagina++);
     } while (!plazo.hasExpired());
-    if (terminado())
+    if (terminado()) {
         m_turno.stop();
+        if (m_enRepaso)
+            acabaRepaso();
+    }
     eligePrimero();
     if (cuenta() != antes || terminado())
         emit haCambiado();
@@ -69,10 +118,12 @@ void Buscador::avanza()
 
 void Buscador::buscaEnPagina(int pagina)
 {
+    auto& aciertos = m_enRepaso ? m_repasados : m_aciertos;
+    m_sinTotal = m_sinTotal || !m_paginas.fuente().completa();
     const TextoPagina texto{m_paginas.compuesta(pagina)};
-    for (int tramo = 0; tramo < texto.tramos() && cuenta() < MaximoAciertos; ++tramo) {
+    for (int tramo = 0; tramo < texto.tramos() && int(aciertos.size()) < MaximoAciertos; ++tramo) {
         for (const Trecho& trecho : encuentra(m_buscado, texto.texto(tramo)))
-            m_aciertos.push_back({pagina, tramo, trecho});
+            aciertos.push_back({pagina, tramo, trecho});
     }
 }
 

@@ -21,7 +21,8 @@ struct Acierto
 };
 
 /// Looks for a text on all pages, without minding case and accents, in slices between the window's events. Pages that are laid out
-/// later are searched as they come.
+/// later are searched as they come. Pages that were searched before their total was known are searched once more when it is, since
+/// it may stand on them; until then the hits of the first time are shown.
 class Buscador final : public QObject
 {
     Q_OBJECT
@@ -42,6 +43,10 @@ public:
     [[nodiscard]] bool activo() const { return !m_buscado.isEmpty(); }
     /// Whether all pages that are laid out have been searched.
     [[nodiscard]] bool terminado() const;
+    /// Whether no hit will come or go any more.
+    [[nodiscard]] bool definitivo() const;
+    /// The report's later pages cannot be laid out: what is there is all there will be. Holds until it is said otherwise.
+    void ponIncompleto(bool incompleto);
     [[nodiscard]] int cuenta() const { return int(m_aciertos.size()); }
     [[nodiscard]] std::span<const Acierto> enPagina(int pagina) const;
     /// Its number from 0; -1 when there is none.
@@ -58,6 +63,8 @@ signals:
 private:
     void avanza();
     void buscaEnPagina(int pagina);
+    void repasa();
+    void acabaRepaso();
     void mueve(int pasos);
     void hazActual(int numero);
     void eligePrimero();
@@ -66,6 +73,10 @@ private:
     QTimer m_turno;
     QString m_buscado; ///< folded
     std::vector<Acierto> m_aciertos;
+    std::vector<Acierto> m_repasados; ///< of the second time, as long as m_enRepaso
+    bool m_enRepaso = false;
+    bool m_sinTotal = false; ///< a page was searched while the total was not known
+    bool m_incompleto = false;
     int m_siguientePagina = 0;
     int m_desdePagina = 0;
     int m_actual = -1;

@@ -58,6 +58,18 @@ TEST_F(BarraBusquedaTest, SaysThatThereIsNone)
     EXPECT_EQ(cuenta->text(), u"Ningún acierto"_s);
 }
 
+TEST_F(BarraBusquedaTest, AsLongAsPagesComeNothingIsFinal)
+{
+    fuente.hechas = 1;
+    escribe(u"zapato"_s);
+    EXPECT_EQ(cuenta->text(), u"Buscando…"_s);
+    escribe(u"corte"_s);
+    EXPECT_EQ(cuenta->text(), u"1 de 2…"_s);
+    fuente.hechas = 2;
+    buscador.sigue();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return cuenta->text() == u"1 de 3"_s; }));
+}
+
 TEST_F(BarraBusquedaTest, TypingSearchesAfterABreath)
 {
     QTest::keyClicks(texto, u"cort"_s);

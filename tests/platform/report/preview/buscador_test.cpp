@@ -100,6 +100,67 @@ TEST_F(BuscadorTest, PagesThatComeLaterAreSearchedToo)
     EXPECT_TRUE(QTest::qWaitFor([&] { return otro.cuenta() == 4; }));
 }
 
+TEST_F(BuscadorTest, EmptiedItAsksForNoMorePages)
+{
+    prueba::FuenteDePrueba larga{16000, 16000};
+    PaginasVista suyas{larga, [](const QString&) {}};
+    Buscador otro{suyas};
+    otro.busca(u"zapato"_s, 0);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !larga.pedidas.empty(); }));
+    otro.busca({}, 0);
+    const auto antes = larga.pedidas.size();
+    for (int i = 0; i < 10; ++i)
+        QCoreApplication::processEvents();
+    EXPECT_EQ(larga.pedidas.size(), antes);
+}
+
+TEST_F(BuscadorTest, PagesSearchedBeforeTheirTotalWasKnownAreSearchedOnceMore)
+{
+    prueba::FuenteDePrueba lenta{3, 2};
+    PaginasVista suyas{lenta, [](const QString&) {}};
+    Buscador otro{suyas};
+    otro.busca(u"de 3"_s, 0);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return otro.terminado(); }));
+    EXPECT_EQ(otro.cuenta(), 0);
+    EXPECT_FALSE(otro.definitivo());
+    lenta.hechas = 3;
+    otro.sigue();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return otro.cuenta() == 3; }));
+    EXPECT_TRUE(otro.definitivo());
+}
+
+TEST_F(BuscadorTest, HitsThatTheTotalTookAwayGoAndTheCurrentOneStays)
+{
+    prueba::FuenteDePrueba lenta{{{u"Corte..."_s}, {u"Tinte..."_s}, {u"Peine"_s}}};
+    lenta.hechas = 2;
+    PaginasVista suyas{lenta, [](const QString&) {}};
+    Buscador otro{suyas};
+    otro.busca(u"..."_s, 1);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return otro.terminado(); }));
+    ASSERT_EQ(otro.cuenta(), 4) << "the two totals among them";
+    ASSERT_EQ(otro.actual(), 2);
+    const QSignalSpy actuales{&otro, &Buscador::actualCambiado};
+    lenta.hechas = 3;
+    otro.sigue();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return otro.definitivo(); }));
+    EXPECT_EQ(otro.cuenta(), 2);
+    ASSERT_EQ(otro.actual(), 1);
+    EXPECT_EQ(otro.acierto(1).pagina, 1);
+    EXPECT_EQ(actuales.size(), 0) << "the pages do not move under the operator";
+}
+
+TEST_F(BuscadorTest, WhatCannotBeLaidOutIsNotWaitedFor)
+{
+    prueba::FuenteDePrueba rota{3, 2};
+    PaginasVista suyas{rota, [](const QString&) {}};
+    Buscador otro{suyas};
+    otro.busca(u"zapato"_s, 0);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return otro.terminado(); }));
+    EXPECT_FALSE(otro.definitivo());
+    otro.ponIncompleto(true);
+    EXPECT_TRUE(otro.definitivo());
+}
+
 TEST_F(BuscadorTest, WorksInSlicesBetweenTheEvents)
 {
     prueba::FuenteDePrueba larga{16000, 16000};

@@ -186,7 +186,7 @@ TEST_F(VentanaVistaTest, SearchGoesOnInPagesThatAreLaidOutLater)
     abreConTope(30, 3);
     tecla(Qt::Key_F, Qt::ControlModifier);
     QTest::keyClicks(control<QLineEdit>(u"textoBuscado"), u"hoja"_s);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return texto(u"cuentaAciertos") == u"1 de 3"_s; }));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return texto(u"cuentaAciertos") == u"1 de 3…"_s; }));
     fuente->tope = 30;
     EXPECT_TRUE(QTest::qWaitFor([this] { return texto(u"cuentaAciertos") == u"1 de 30"_s; }));
 }
