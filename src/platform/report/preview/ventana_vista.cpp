@@ -47,8 +47,7 @@ VentanaVista::VentanaVista(std::unique_ptr<FuenteVista> fuente, const QString& t
     m_lienzo->ponZoom(m_recuerdo.zoom);
     m_lienzo->setFocus();
     refresca();
-    if (!m_fuente->completa())
-        m_turno.start(0);
+    sigueComponiendo();
 }
 
 VentanaVista::~VentanaVista()
@@ -68,8 +67,22 @@ void VentanaVista::componeMas()
         m_lienzo->viewport()->update();
     }
     if (!motivo.isEmpty())
-        fallaPagina(motivo);
+        quedaIncompleta(motivo);
     refresca();
+}
+
+void VentanaVista::sigueComponiendo()
+{
+    // What failed would fail again.
+    if (!m_fuente->completa() && !m_incompleta)
+        m_turno.start(0);
+}
+
+void VentanaVista::quedaIncompleta(const QString& motivo)
+{
+    m_incompleta = true;
+    m_buscador.ponIncompleto(true);
+    fallaPagina(motivo);
 }
 
 void VentanaVista::refresca()
@@ -89,7 +102,8 @@ void VentanaVista::refrescaEstado()
     const bool completa = m_fuente->completa();
     const QString cuenta = paginas == 1 ? u"1 página"_s : u"%1 páginas"_s.arg(paginas);
     const QString nombre = m_fuente->titulo().isEmpty() ? u""_s : m_fuente->titulo() + u" · "_s;
-    m_estado->setText(nombre + (completa ? cuenta : u"preparando el informe, %1 hasta ahora"_s.arg(cuenta)));
+    const QString pendiente = m_incompleta ? u"informe incompleto, %1"_s : u"preparando el informe, %1 hasta ahora"_s;
+    m_estado->setText(nombre + (completa ? cuenta : pendiente.arg(cuenta)));
     m_avance->setVisible(!completa && m_turno.isActive());
     m_avance->setValue(qRound(m_fuente->avance() * 100));
 }

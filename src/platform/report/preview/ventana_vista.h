@@ -91,6 +91,8 @@ private:
     void trabaja(const QString& que, const QString& hecho, const DialogoAvance::Trabajo& trabajo);
     [[nodiscard]] bool completa(const AvanceExportacion& avance);
     void fallaPagina(const QString& motivo);
+    void quedaIncompleta(const QString& motivo);
+    void sigueComponiendo();
 
     std::unique_ptr<FuenteVista> m_fuente;
     PaginasVista m_paginas;
@@ -99,6 +101,7 @@ private:
     RecuerdoVista& m_recuerdo;
     QString m_impresora;
     QTimer m_turno;
+    bool m_incompleta = false;        ///< later pages cannot be laid out
     QPointer<DialogoAvance> m_enObra; ///< a long work goes on; the pages are in its hands
 
     BarraVista* m_barra;

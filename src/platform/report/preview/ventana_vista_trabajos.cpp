@@ -74,15 +74,16 @@ void VentanaVista::vuelveAMostrar()
         while (m_fuente->paginas() <= pagina && !m_fuente->completa() && !plazo.hasExpired())
             m_fuente->avanza(QDeadlineTimer{TurnoLargo});
     });
+    m_incompleta = false;
+    m_buscador.ponIncompleto(false);
     if (!motivo.isEmpty())
-        fallaPagina(motivo);
+        quedaIncompleta(motivo);
     m_banda->hide();
     m_buscador.busca({}, 0);
     m_arbol->vacia();
     m_miniaturas->olvida();
     m_lienzo->recomienza();
-    if (!m_fuente->completa() && motivo.isEmpty())
-        m_turno.start(0);
+    sigueComponiendo();
     refresca();
     irAPagina(pagina);
     m_barraBusqueda->repite();
@@ -149,8 +150,7 @@ void VentanaVista::trabaja(const QString& que, const QString& hecho, const Dialo
         m_banda->di(BandaAviso::Clase::Noticia, acabado ? hecho : u"%1: cancelado."_s.arg(que));
     m_paginas.olvida();
     m_lienzo->viewport()->update();
-    if (!m_fuente->completa())
-        m_turno.start(0);
+    sigueComponiendo();
     refresca();
 }
 

@@ -68,6 +68,8 @@ TEST_F(VentanaVistaTest, AnErrorOnALaterPageIsToldAndTheFirstPagesStay)
     EXPECT_EQ(fuente->hechas, 4);
     pulsa(u"ultima");
     EXPECT_EQ(lienzo().paginaActual(), 3);
+    EXPECT_EQ(texto(u"estado"), u"Listado de secciones · informe incompleto, 4 páginas"_s);
+    EXPECT_FALSE(control<QProgressBar>(u"avance")->isVisible());
 }
 
 TEST_F(VentanaVistaTest, AnErrorWhilePaintingIsTold)

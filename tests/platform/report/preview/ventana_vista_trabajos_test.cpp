@@ -220,6 +220,29 @@ TEST_F(VentanaVistaTrabajos, ALayoutThatNoLongerFitsIsToldAndThePagesStay)
     EXPECT_EQ(texto(u"totalPaginas"), u"de 3"_s);
 }
 
+TEST_F(VentanaVistaTrabajos, WhatCannotBeLaidOutIsNotTriedAgainAfterAnExport)
+{
+    auto nueva = std::make_unique<prueba::FuenteDePrueba>(9, 4);
+    int fallos = 0;
+    nueva->alAvanzar = [&fallos] {
+        ++fallos;
+        throw ErrorEjecucion{ErrorEjecucion::DivisionPorCero, u"División por cero."_s};
+    };
+    abre(std::move(nueva));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !aviso().isEmpty(); }));
+    fuente->alExportar = [](FormatoExportacion, const QString&, const AvanceExportacion& avance) { return avance(1); };
+    elegido = u"x.csv"_s;
+    exporta(FormatoExportacion::Csv);
+    for (int i = 0; i < 10; ++i)
+        QCoreApplication::processEvents();
+    EXPECT_EQ(fallos, 1);
+    EXPECT_EQ(aviso(), u"El informe se ha guardado en x.csv."_s);
+    fuente->alAvanzar = {};
+    pulsa(u"actualizar");
+    EXPECT_TRUE(esperaCompleta()) << "laid out anew it may go well";
+    EXPECT_EQ(texto(u"estado"), u"Listado de secciones · 9 páginas"_s);
+}
+
 TEST_F(VentanaVistaTrabajos, SearchGoesOnInTheReportLaidOutAnew)
 {
     abre({{u"Corte"_s}, {u"Tinte"_s}});
