@@ -36,11 +36,18 @@ using EligeFichero = std::function<QString(QWidget* padre, FormatoExportacion fo
 /// With the file dialog.
 [[nodiscard]] QString eligeFicheroConDialogo(QWidget* padre, FormatoExportacion formato, const QString& propuesto);
 
+/// Whether files that are there already may be replaced; `cuales` names them.
+using ConfirmaReemplazo = std::function<bool(QWidget* padre, const QString& cuales)>;
+
+/// With a message box.
+[[nodiscard]] bool confirmaReemplazoConDialogo(QWidget* padre, const QString& cuales);
+
 /// What a preview needs from outside; the pointers outlive it.
 struct ServiciosVista
 {
     ImpresionVista* impresion = nullptr; ///< null: it cannot print
     EligeFichero eligeFichero = eligeFicheroConDialogo;
+    ConfirmaReemplazo confirmaReemplazo = confirmaReemplazoConDialogo;
 };
 
 /// The preview of one report: it shows the pages that there are and lays out the rest beside its events.
@@ -88,7 +95,10 @@ private:
     void imprime();
     void imprime(const PeticionImpresion& peticion);
     void exporta(FormatoExportacion formato);
-    void trabaja(const QString& que, const QString& hecho, const DialogoAvance::Trabajo& trabajo);
+    [[nodiscard]] QString pideFichero(FormatoExportacion formato);
+    [[nodiscard]] QString ficherosQueHay(FormatoExportacion formato, const QString& fichero) const;
+    [[nodiscard]] QString dondeSeHaGuardado(FormatoExportacion formato, const QString& fichero) const;
+    void trabaja(const QString& que, const std::function<QString()>& hecho, const DialogoAvance::Trabajo& trabajo);
     [[nodiscard]] bool completa(const AvanceExportacion& avance);
     void fallaPagina(const QString& motivo);
     void quedaIncompleta(const QString& motivo);

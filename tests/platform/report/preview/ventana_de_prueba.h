@@ -19,9 +19,14 @@ protected:
     void abre(std::unique_ptr<FuenteDePrueba> nueva)
     {
         fuente = nueva.get();
-        ServiciosVista servicios{&impresion, [this](QWidget*, FormatoExportacion, const QString& nombre) {
+        ServiciosVista servicios{&impresion,
+                                 [this](QWidget*, FormatoExportacion, const QString& nombre) {
                                      propuesto = nombre;
                                      return elegido;
+                                 },
+                                 [this](QWidget*, const QString& cuales) {
+                                     preguntados += cuales;
+                                     return reemplaza;
                                  }};
         ventana = std::make_unique<VentanaVista>(std::move(nueva), QStringLiteral("INFORMES:"), impresora, servicios, recuerdo);
         ventana->show();
@@ -60,6 +65,8 @@ protected:
     QString impresora;
     QString elegido;
     QString propuesto;
+    QStringList preguntados; ///< files about whose replacement the window asked
+    bool reemplaza = true;
     FuenteDePrueba* fuente = nullptr; ///< the window's
     std::unique_ptr<VentanaVista> ventana;
 };

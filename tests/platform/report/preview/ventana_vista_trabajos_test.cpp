@@ -4,10 +4,14 @@
 #include "platform/runtime/error_ejecucion.h"
 
 #include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
 #include <QMenu>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTemporaryDir>
+#include <QTimer>
 
 namespace kestrane::report {
 namespace {
@@ -18,6 +22,7 @@ class VentanaVistaTrabajos : public prueba::VentanaDePrueba
 {
 protected:
     void exporta(FormatoExportacion formato) { control<QToolButton>(u"exportar")->menu()->actions().at(int(formato))->trigger(); }
+    static void crea(const QString& ruta) { ASSERT_TRUE(QFile{ruta}.open(QIODevice::WriteOnly)); }
     [[nodiscard]] QString aviso() const { return control<QWidget>(u"banda")->isVisible() ? texto(u"textoAviso") : QString{}; }
     /// Presses "Imprimir" in the dialog and waits for what the window tells of it.
     void aceptaImpresion()
@@ -64,6 +69,75 @@ TEST_F(VentanaVistaTrabajos, AFileWithoutItsEndingGetsIt)
     elegido = u"carpeta/secciones"_s;
     exporta(FormatoExportacion::Png);
     EXPECT_EQ(escrito, u"carpeta/secciones.png"_s);
+}
+
+TEST_F(VentanaVistaTrabajos, AFileThatGetsItsEndingIsNotReplacedUnasked)
+{
+    abre(1, 1);
+    const QTemporaryDir carpeta;
+    crea(carpeta.filePath(u"uno.txt.csv"_s));
+    bool exportado = false;
+    fuente->alExportar = [&exportado](FormatoExportacion, const QString&, const AvanceExportacion&) { return exportado = true; };
+    elegido = carpeta.filePath(u"uno.txt"_s);
+    reemplaza = false;
+    exporta(FormatoExportacion::Csv);
+    EXPECT_EQ(preguntados, QStringList{u"uno.txt.csv"_s});
+    EXPECT_FALSE(exportado);
+    reemplaza = true;
+    exporta(FormatoExportacion::Csv);
+    EXPECT_TRUE(exportado);
+}
+
+TEST_F(VentanaVistaTrabajos, PicturesOfSeveralPagesAreNamedAndNotReplacedUnasked)
+{
+    abre(3, 3);
+    const QTemporaryDir carpeta;
+    int exportados = 0;
+    fuente->alExportar = [&exportados](FormatoExportacion, const QString&, const AvanceExportacion&) { return ++exportados > 0; };
+    elegido = carpeta.filePath(u"hoja.png"_s);
+    for (const QString& ajeno : {u"hoja.png"_s, u"hoja_004.png"_s, u"hoja_1.png"_s, u"otra_001.png"_s})
+        crea(carpeta.filePath(ajeno));
+    exporta(FormatoExportacion::Png);
+    EXPECT_EQ(preguntados, QStringList{}) << "none of these is written";
+    EXPECT_EQ(aviso(), u"El informe se ha guardado en 3 imágenes, de %1 a hoja_003.png."_s.arg(
+                           QDir::toNativeSeparators(carpeta.filePath(u"hoja_001.png"_s))));
+    crea(carpeta.filePath(u"hoja_001.png"_s));
+    crea(carpeta.filePath(u"hoja_003.png"_s));
+    reemplaza = false;
+    exporta(FormatoExportacion::Png);
+    EXPECT_EQ(preguntados, QStringList{u"hoja_001.png y 1 más"_s});
+    EXPECT_EQ(exportados, 1);
+}
+
+TEST_F(VentanaVistaTrabajos, TheFileDialogKnowsTheEndingWhenItAsksAboutReplacing)
+{
+    abre(1, 1);
+    QString terminacion;
+    QTimer::singleShot(0, ventana.get(), [&] {
+        auto* dialogo = ventana->findChild<QFileDialog*>();
+        ASSERT_NE(dialogo, nullptr);
+        terminacion = dialogo->defaultSuffix();
+        EXPECT_FALSE(dialogo->testOption(QFileDialog::DontConfirmOverwrite));
+        dialogo->reject();
+    });
+    EXPECT_EQ(eligeFicheroConDialogo(ventana.get(), FormatoExportacion::Xlsx, QDir::temp().filePath(u"x.xlsx"_s)), QString{});
+    EXPECT_EQ(terminacion, u"xlsx"_s);
+}
+
+TEST_F(VentanaVistaTrabajos, APrintThatIsAskedForDuringAnExportIsNotDoneInsideIt)
+{
+    abre(2, 2);
+    pulsa(u"imprimir");
+    ASSERT_NE(dialogoImpresion(), nullptr);
+    fuente->alExportar = [this](FormatoExportacion, const QString&, const AvanceExportacion& avance) {
+        dialogoImpresion()->accept();
+        QCoreApplication::processEvents();
+        return avance(1);
+    };
+    elegido = u"x.csv"_s;
+    exporta(FormatoExportacion::Csv);
+    EXPECT_TRUE(impresion.peticiones.empty());
+    EXPECT_EQ(aviso(), u"El informe se ha guardado en x.csv."_s);
 }
 
 TEST_F(VentanaVistaTrabajos, TheNextExportBeginsInTheLastFolder)
