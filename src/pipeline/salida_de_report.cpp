@@ -101,9 +101,10 @@ void SalidaDeReport::ejecutaReport(const QString& ruta)
     TramoGuardado primero;
     configura(primero, m_piezas.control, ruta);
     preparaYEjecuta(primero, m_piezas.control);
-    if (!primero.error())
+    const auto& error = primero.error();
+    if (!error)
         return;
-    m_piezas.mensajes.Critico(primero.error()->descripcion(), QString::number(primero.error()->numero()));
+    m_piezas.mensajes.Critico(error->descripcion(), QString::number(error->numero()));
     TramoGuardado segundo;
     preparaYEjecuta(segundo, m_piezas.control);
 }

@@ -7,7 +7,7 @@ namespace kestrane::report {
 
 Documento::Documento(const QString& rutaLayout, database::EntornoDatos& entorno) : Documento{leeLayout(rutaLayout), entorno}
 {
-    m_ruta = rutaLayout;
+    m_ruta = rutaLayout; // NOLINT(cppcoreguidelines-prefer-member-initializer): a constructor that delegates has none
 }
 
 void Documento::actualiza()

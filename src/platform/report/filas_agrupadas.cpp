@@ -48,11 +48,11 @@ Valor FilasAgrupadas::agregado(qsizetype fila, int indice) const
 {
     const LugarAgregado lugar = m_lugares[static_cast<size_t>(indice)];
     if (lugar.nivel == LugarAgregado::PorFila)
-        return filas() == 0 ? Valor{0.0} : m_corrientes->valor(fila, lugar.columna);
+        return m_corrientes && filas() > 0 ? m_corrientes->valor(fila, lugar.columna) : Valor{0.0};
     const auto& sumas = m_sumas[static_cast<size_t>(lugar.nivel)];
-    if (lugar.nivel == 0)
-        return sumas->valor(0, lugar.columna);
-    return filas() == 0 ? Valor{} : sumas->valor(m_cortes.grupoDe(fila, lugar.nivel), lugar.columna);
+    if (!sumas || (lugar.nivel > 0 && filas() == 0))
+        return {};
+    return sumas->valor(lugar.nivel == 0 ? 0 : m_cortes.grupoDe(fila, lugar.nivel), lugar.columna);
 }
 
 } // namespace kestrane::report

@@ -110,7 +110,7 @@ struct ExpresionEnlazada::Programa
 
     /// What `calcula` gives; its errors tell where the expression stands.
     template<class Calculo>
-    auto conLugar(Calculo calcula) const
+    [[nodiscard]] auto conLugar(Calculo calcula) const
     {
         try {
             return calcula();

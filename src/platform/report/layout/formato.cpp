@@ -65,7 +65,7 @@ QString escribeNumero(const Valor& valor, const FormatoValor& formato, const Con
 
 QString escribeFecha(Fecha fecha, Formato formato, const ConfiguracionRegional& regional)
 {
-    const QString dia = fecha.esDiaCero() ? QString{} : aTexto(fecha.sinHora(), regional);
+    QString dia = fecha.esDiaCero() ? QString{} : aTexto(fecha.sinHora(), regional);
     if (formato == Formato::Fecha)
         return dia;
     const QString hora = QString::number(fecha.hora()) + u':' + QString::number(fecha.minuto()).rightJustified(2, u'0');

@@ -30,7 +30,7 @@ public:
     {
     }
 
-    Elemento texto() const
+    [[nodiscard]] Elemento texto() const
     {
         auto nuevo = elementoEn<Texto>(comun());
         nuevo.valor = valorDeTexto();
@@ -42,7 +42,7 @@ public:
         return nuevo;
     }
 
-    Elemento linea() const
+    [[nodiscard]] Elemento linea() const
     {
         auto nueva = elementoEn<Linea>(comun(SinMedida::Nada));
         nueva.grosor = medidaDe(m_xml, u"grosor", nueva.grosor);
@@ -51,7 +51,7 @@ public:
         return nueva;
     }
 
-    Elemento marco() const
+    [[nodiscard]] Elemento marco() const
     {
         auto nuevo = elementoEn<Marco>(comun());
         nuevo.grosor = medidaDe(m_xml, u"grosor", nuevo.grosor);
@@ -61,7 +61,7 @@ public:
         return nuevo;
     }
 
-    Elemento imagen() const
+    [[nodiscard]] Elemento imagen() const
     {
         const QString* fichero = m_xml.atributo(u"fichero");
         if ((fichero == nullptr) == (m_xml.atributo(u"valor") == nullptr))
@@ -71,7 +71,7 @@ public:
         return nueva;
     }
 
-    Elemento codigo39() const
+    [[nodiscard]] Elemento codigo39() const
     {
         auto nuevo = elementoEn<Codigo39>(comun());
         nuevo.valor = m_ambito.expresion(m_xml, u"valor");
@@ -80,7 +80,7 @@ public:
         return nuevo;
     }
 
-    Elemento subinforme() const
+    [[nodiscard]] Elemento subinforme() const
     {
         auto nuevo = elementoEn<Subinforme>(comun());
         nuevo.caja.setHeight(0);
