@@ -1,5 +1,7 @@
 #include "pipeline/forms/frm_esperar.h"
 
+#include <QCloseEvent>
+
 #include <chrono>
 
 namespace kestrane {
@@ -24,7 +26,8 @@ void TicsDeReloj::empieza(QWidget& ventana, const std::function<void()>& tic)
 
 void TicsDeReloj::para()
 {
-    m_temporizador->stop();
+    if (m_temporizador)
+        m_temporizador->stop();
 }
 
 FrmEsperar::FrmEsperar(const ContextoEjecucion& contexto, AspectoVentanas& aspecto, QWidget* principal, FuenteDeTics& tics)
@@ -48,7 +51,16 @@ void FrmEsperar::avanza()
         return;
     m_tics.para();
     barra().setValue(0);
+    m_cumplida = true;
     close();
+}
+
+void FrmEsperar::closeEvent(QCloseEvent* evento)
+{
+    if (m_cumplida)
+        VentanaConBarra::closeEvent(evento);
+    else
+        evento->ignore();
 }
 
 void EsperaEnVentana::Muestra()

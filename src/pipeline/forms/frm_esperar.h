@@ -3,6 +3,7 @@
 #include "pipeline/forms/ventana_con_barra.h"
 #include "pipeline/salida_de_report.h"
 
+#include <QPointer>
 #include <QTimer>
 
 #include <functional>
@@ -27,7 +28,7 @@ public:
     void para() override;
 
 private:
-    QTimer* m_temporizador = nullptr; ///< the window's
+    QPointer<QTimer> m_temporizador; ///< the window's, and gone with it
 };
 
 /// The timed window: it closes itself at the hundredth tick.
@@ -40,9 +41,14 @@ public:
     FrmEsperar(const ContextoEjecucion& contexto, AspectoVentanas& aspecto, QWidget* principal, FuenteDeTics& tics);
     ~FrmEsperar() override;
 
+protected:
+    /// Nobody closes it but itself: Alt+F4 would cut the wait short.
+    void closeEvent(QCloseEvent* evento) override;
+
 private:
     void avanza();
 
+    bool m_cumplida = false; ///< all ticks are done
     FuenteDeTics& m_tics;
 };
 

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QElapsedTimer>
+#include <QPointer>
 #include <QWindow>
 
 namespace kestrane {
@@ -34,8 +35,12 @@ void FrmParar::muestraExpuesta()
 {
     show();
     const QDeadlineTimer plazo{EsperaDeExposicion};
-    while (!windowHandle()->isExposed() && !plazo.hasExpired())
+    const QPointer<FrmParar> viva{this};
+    while (!windowHandle()->isExposed() && !plazo.hasExpired()) {
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, 10);
+        if (!viva)
+            return; // somebody's timer has closed it
+    }
     repaint();
     m_pintada = m_cronometro();
 }

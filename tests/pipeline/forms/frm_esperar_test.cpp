@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QPointer>
 #include <QTest>
+#include <QWindow>
 
 namespace kestrane {
 namespace {
@@ -89,6 +90,32 @@ TEST_F(FrmEsperarTest, EachTickAddsOneAndTheHundredthCloses)
     EXPECT_FALSE(ventana.isVisible());
     EXPECT_EQ(ventana.barra().value(), 0);
     EXPECT_EQ(tics.paradas, 1);
+}
+
+TEST_F(FrmEsperarTest, ClosingItDoesNotCutTheWaitShort)
+{
+    FrmEsperar ventana{contexto, aspecto, nullptr, tics};
+    ventana.show();
+    tics.late();
+    EXPECT_FALSE(ventana.windowHandle()->close()) << "as Alt+F4 does";
+    EXPECT_TRUE(ventana.isVisible());
+    for (int tic = 1; tic < 100; ++tic)
+        tics.late();
+    EXPECT_FALSE(ventana.isVisible());
+}
+
+TEST_F(FrmEsperarTest, AClockThatOutlivesItsWindowStopsWithoutHarm)
+{
+    TicsDeReloj reloj;
+    reloj.para();
+    {
+        QWidget ventana;
+        reloj.empieza(ventana, [] {});
+    }
+    reloj.para();
+    QWidget otra;
+    reloj.empieza(otra, [] {});
+    EXPECT_TRUE(otra.findChild<QTimer*>(u"tmr_barra"_s)->isActive());
 }
 
 TEST_F(FrmEsperarTest, TheWaitIsModalAndComesBackAfterAHundredTicks)

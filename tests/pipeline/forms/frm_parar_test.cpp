@@ -5,7 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QTest>
+#include <QTimer>
 #include <QWindow>
 
 namespace kestrane {
@@ -141,6 +143,17 @@ TEST_F(FrmPararTest, ShownAfterItWasClosedItLoadsAnewFromZero)
     progreso.Muestra();
     EXPECT_EQ(valor(), 0);
     EXPECT_TRUE(aspecto.pasos.contains(u"TraducirForm frmParar"_s));
+}
+
+TEST_F(FrmPararTest, ClosedWhileItIsComingToTheScreenIsHarmless)
+{
+    QTimer::singleShot(0, qApp, [this] { progreso.cerrar(); });
+    progreso.Muestra();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(progreso.ventana(), nullptr);
+    progreso.IncrementaBarra();
+    progreso.Muestra();
+    EXPECT_TRUE(progreso.ventana()->isVisible());
 }
 
 TEST(CronometroDeMaquina, NeverGoesBack)
