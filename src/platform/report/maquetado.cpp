@@ -52,7 +52,13 @@ void Maquetado::avanza()
         return;
     const InicioPagina inicio = m_siguiente;
     const Contexto numeros{0, paginas() + 1, 0};
-    m_siguiente = Hoja{m_informe, m_medidor, inicio, numeros, {nullptr, nullptr, &m_indice}}.llena();
+    const auto entradas = static_cast<std::ptrdiff_t>(m_indice.size());
+    try {
+        m_siguiente = Hoja{m_informe, m_medidor, inicio, numeros, {nullptr, nullptr, &m_indice}}.llena();
+    } catch (...) {
+        m_indice.erase(m_indice.begin() + entradas, m_indice.end()); // of a page that is not there
+        throw;
+    }
     m_inicios.push_back(inicio);
 }
 

@@ -60,6 +60,23 @@ TEST(Maquetado, AdvanceGoesFromNothingToAll)
     EXPECT_EQ(maquetado.paginas(), 4);
 }
 
+TEST(Maquetado, APageThatFailsLeavesNothingInTheIndexHoweverOftenItIsTried)
+{
+    prueba::LayoutDePrueba prueba;
+    prueba.altoUtil(45);
+    prueba.grupo(u"n"_s).titulo = prueba.expresion(u"1 / (n - 4)"_s);
+    prueba.layout.detalle.push_back(prueba.banda(10, u"n"_s));
+    prueba::PaginasDePrueba paginas{prueba.layout, prueba::copiaNumerada(6)};
+    Maquetado& maquetado = paginas.maquetado();
+    maquetado.avanza();
+    const size_t entradas = maquetado.indice().size();
+    ASSERT_EQ(entradas, 2U);
+    for (int vez = 0; vez < 3; ++vez)
+        EXPECT_THROW(maquetado.avanza(), ErrorEjecucion);
+    EXPECT_EQ(maquetado.indice().size(), entradas);
+    EXPECT_EQ(maquetado.paginas(), 1);
+}
+
 TEST(Maquetado, AReportWithNothingAtAllHasOneEmptyPage)
 {
     prueba::PaginasDePrueba paginas{Layout{}, prueba::copiaNumerada(0)};
