@@ -1,6 +1,7 @@
 #include "platform/report/preview/ventana_vista.h"
 
 #include <QCloseEvent>
+#include <QScreen>
 
 #include <algorithm>
 #include <chrono>
@@ -39,7 +40,7 @@ VentanaVista::VentanaVista(std::unique_ptr<FuenteVista> fuente, const QString& t
     conectaPaginas();
     conectaBusqueda();
     atajos();
-    resize(m_recuerdo.tamano);
+    resize(m_recuerdo.tamano.boundedTo(screen()->availableGeometry().size()));
     if (m_recuerdo.maximizada)
         setWindowState(Qt::WindowMaximized);
     m_barra->ponPanel(m_recuerdo.panel);
@@ -91,6 +92,7 @@ void VentanaVista::refresca()
     m_miniaturas->ponPaginas(m_fuente->paginas());
     m_arbol->crece(m_fuente->indice());
     m_panel->setTabVisible(PestanaGrupos, !m_fuente->indice().empty());
+    m_barra->permiteImprimir(m_servicios.impresion && m_fuente->paginas() > 0);
     m_buscador.sigue();
     paginaCambiada();
     refrescaEstado();

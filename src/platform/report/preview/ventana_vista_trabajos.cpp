@@ -22,6 +22,7 @@ namespace {
 
 constexpr auto TurnoLargo = 30ms;
 constexpr auto EsperaPagina = 500ms;
+constexpr double ParteDeComponer = 0.5; ///< of the bar, when pages are laid out before they are printed
 
 struct TipoFichero
 {
@@ -106,7 +107,7 @@ void VentanaVista::vuelveAMostrar()
 
 void VentanaVista::imprime()
 {
-    if (m_enObra || !m_servicios.impresion)
+    if (m_enObra || !m_servicios.impresion || m_fuente->paginas() == 0)
         return;
     const QString preferida = m_impresora.isEmpty() ? m_recuerdo.impresora : m_impresora;
     auto* dialogo = new DialogoImpresion{*m_servicios.impresion, preferida, m_fuente->completa() ? m_fuente->paginas() : 0,
@@ -127,7 +128,10 @@ void VentanaVista::imprime(const PeticionImpresion& peticion)
     trabaja(
         u"Imprimiendo"_s, [&] { return u"El informe se ha enviado a la impresora %1."_s.arg(peticion.impresora); },
         [this, &peticion](const AvanceExportacion& avance) {
-            return completa(avance) && m_servicios.impresion->imprime(*m_fuente, peticion, avance);
+            const double desde = m_fuente->completa() ? 0 : ParteDeComponer;
+            return completa(avance) && m_servicios.impresion->imprime(*m_fuente, peticion, [&avance, desde](double parte) {
+                return avance(desde + parte * (1 - desde));
+            });
         });
 }
 
@@ -219,7 +223,7 @@ bool VentanaVista::completa(const AvanceExportacion& avance)
 {
     while (!m_fuente->completa()) {
         m_fuente->avanza(QDeadlineTimer{TurnoLargo});
-        if (!avance(m_fuente->avance() / 2))
+        if (!avance(m_fuente->avance() * ParteDeComponer))
             return false;
     }
     return true;

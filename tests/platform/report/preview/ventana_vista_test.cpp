@@ -196,12 +196,21 @@ TEST_F(VentanaVistaTest, SearchGoesOnInPagesThatAreLaidOutLater)
 TEST_F(VentanaVistaTest, TheNextWindowHasTheSizeAndZoomOfTheLast)
 {
     abre(1, 1);
-    ventana->resize(900, 640);
+    ventana->resize(780, 640);
     pulsa(u"paginaEntera");
     ventana->close();
     abre(1, 1);
-    EXPECT_EQ(ventana->size(), QSize(900, 640));
+    EXPECT_EQ(ventana->size(), QSize(780, 640));
     EXPECT_EQ(lienzo().zoom().modo, Zoom::Modo::Pagina);
+}
+
+TEST_F(VentanaVistaTest, IsNoLargerThanTheScreen)
+{
+    recuerdo.tamano = {20000, 15000};
+    abre(1, 1);
+    const QSize pantalla = ventana->screen()->availableGeometry().size();
+    EXPECT_LE(ventana->width(), pantalla.width());
+    EXPECT_LE(ventana->height(), pantalla.height());
 }
 
 TEST_F(VentanaVistaTest, AnEmptyReportOpensAndNothingInItFails)

@@ -252,6 +252,32 @@ TEST_F(VentanaVistaTrabajos, TheButtonOpensThePrintDialogAndCancelPrintsNothing)
     EXPECT_TRUE(impresion.peticiones.empty());
 }
 
+TEST_F(VentanaVistaTrabajos, AReportWithoutPagesIsNotPrinted)
+{
+    abre(QList<QStringList>{});
+    EXPECT_FALSE(control<QToolButton>(u"imprimir")->isEnabled());
+    tecla(Qt::Key_P, Qt::ControlModifier);
+    EXPECT_EQ(dialogoImpresion(), nullptr);
+}
+
+TEST_F(VentanaVistaTrabajos, TheBarOfAPrintNeverGoesBack)
+{
+    abreConTope(9, 1);
+    int antes = 0;
+    impresion.alImprimir = [&](const AvanceExportacion& avance) {
+        antes = control<QProgressBar>(u"barraAvance")->value();
+        EXPECT_TRUE(avance(0));
+        EXPECT_GE(control<QProgressBar>(u"barraAvance")->value(), antes);
+        EXPECT_TRUE(avance(1));
+        EXPECT_EQ(control<QProgressBar>(u"barraAvance")->value(), 100);
+        return true;
+    };
+    pulsa(u"imprimir");
+    fuente->tope = 9;
+    aceptaImpresion();
+    EXPECT_GT(antes, 0);
+}
+
 TEST_F(VentanaVistaTrabajos, APrinterThatVanishedIsTold)
 {
     abre(1, 1);
