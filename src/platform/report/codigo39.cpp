@@ -20,6 +20,8 @@ constexpr QStringView Letra = u"c39hrp24dhtt";
 constexpr int Margen = 10;
 /// A narrow bar wider than that, in millimetres, only spreads the code.
 constexpr double ModuloMayor = 0.5;
+/// A narrower one is not read any more.
+constexpr double ModuloMenor = 0.19;
 
 struct CierraSimbolo
 {
@@ -32,10 +34,12 @@ bool esNegro(const zint_symbol& simbolo, int modulo)
     return (simbolo.encoded_data[0][modulo >> 3] >> (modulo & 7) & 1) != 0;
 }
 
-/// The runs of black modules of the symbol.
+/// The runs of black modules of the symbol; none when they would be too narrow.
 std::vector<QRectF> barras(const zint_symbol& simbolo, const QRectF& caja)
 {
     const double modulo = std::min(ModuloMayor, caja.width() / (simbolo.width + 2 * Margen));
+    if (modulo < ModuloMenor)
+        return {};
     const double izquierda = caja.center().x() - simbolo.width * modulo / 2;
     std::vector<QRectF> barras;
     for (int i = 0; i < simbolo.width; ++i) {

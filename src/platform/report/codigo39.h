@@ -19,7 +19,8 @@ namespace kestrane::report {
 
 /// Whether Code 39 has a sign for each character; small letters stand for capitals. Not for an empty text.
 [[nodiscard]] bool esCodigo39(const QString& valor);
-/// The bars of a text within `caja`, quiet zones included, in the middle of it. None when it cannot be written in Code 39.
+/// The bars of a text within `caja`, quiet zones included, in the middle of it. None when it cannot be written in Code 39, or
+/// not wide enough to be read.
 [[nodiscard]] std::vector<QRectF> barrasCodigo39(const QString& valor, const QRectF& caja);
 
 } // namespace kestrane::report

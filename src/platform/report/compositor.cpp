@@ -150,10 +150,10 @@ void Compositor::pon(const Obra& obra, const Codigo39& codigo, const ElementoEnl
         ponCentrado(obra.pagina, valor, {caja.left(), caja.bottom() - leyenda, caja.width(), leyenda}, estilo);
 }
 
-/// With the machine's bar code font, which writes the legend by itself, when the code is not wider than its box.
+/// With the machine's bar code font, which always writes the legend, when the code is not wider than its box.
 bool Compositor::ponConLetra(const Obra& obra, const QString& valor, const QRectF& caja, const ElementoEnlazado& elemento) const
 {
-    if (elemento.estilos.size() < 2 || !esCodigo39(valor))
+    if (elemento.estilos.size() < 2 || !esCodigo39(valor) || !hayLetraCodigo39())
         return false;
     const int estilo = elemento.estilos[1];
     Renglon renglon{textoCodigo39(valor), 0};

@@ -84,7 +84,7 @@ private:
     {
         enlazado.valor = enlaza(codigo.valor);
         enlazado.estilos.push_back(m_estilos.indice(codigo.estilo));
-        if (hayLetraCodigo39())
+        if (codigo.leyenda) // whether the machine has that font is asked when it paints
             enlazado.estilos.push_back(m_estilos.indice(estiloCodigo39(codigo.caja.height())));
     }
     void completa(ElementoEnlazado& enlazado, const Subinforme& subinforme) const

@@ -40,6 +40,13 @@ TEST(Codigo39, OfWhatCannotBeWrittenThereAreNoBars)
     EXPECT_TRUE(barrasCodigo39(QString{500, u'A'}, {0, 0, 60, 10}).empty());
 }
 
+TEST(Codigo39, BarsTooNarrowToBeReadAreNotDrawn)
+{
+    // Start, a sign and stop have 13 modules each with the gap behind them; with the quiet zones 59.
+    EXPECT_TRUE(barrasCodigo39(u"A"_s, {0, 0, 59 * 0.18, 10}).empty());
+    EXPECT_FALSE(barrasCodigo39(u"A"_s, {0, 0, 59 * 0.20, 10}).empty());
+}
+
 TEST(Codigo39, TheFontsTextStandsBetweenTheMarks)
 {
     EXPECT_EQ(textoCodigo39(u"ab1"_s), u"*AB1*"_s);

@@ -53,6 +53,22 @@ TEST(InformeEnlazado, StylesOfConditionsFollowTheElementsOwn)
     EXPECT_EQ(elemento.condiciones.size(), 1U);
 }
 
+TEST(InformeEnlazado, ABarCodesFontIsForThoseWithALegendWhateverTheMachineHas)
+{
+    prueba::LayoutDePrueba prueba;
+    Codigo39 codigo;
+    codigo.valor = prueba.expresion(u"n"_s);
+    Banda banda;
+    banda.elementos.emplace_back(codigo);
+    codigo.leyenda = false;
+    banda.elementos.emplace_back(codigo);
+    prueba.layout.detalle.push_back(banda);
+    TablaEstilos estilos;
+    const InformeEnlazado informe{prueba.layout, tresFilas, estilos};
+    EXPECT_EQ(informe.detalle()[0].elementos[0].estilos.size(), 2U);
+    EXPECT_EQ(informe.detalle()[0].elementos[1].estilos.size(), 1U);
+}
+
 TEST(InformeEnlazado, AColumnThatIsNotThereIsRefused)
 {
     prueba::LayoutDePrueba prueba;
