@@ -9,6 +9,33 @@ namespace {
 /// What a band that cannot be cut takes at least of a page on which nothing else stands.
 constexpr double AvanceMinimo = 5;
 
+/// A line that shows that others follow which have no room.
+void ponPuntos(Renglon& renglon)
+{
+    QString& texto = renglon.texto;
+    if (texto.size() > 1) {
+        const bool dosMitades = texto.back().isLowSurrogate();
+        texto.chop(dosMitades ? 2 : 1);
+    }
+    texto += u'…';
+}
+
+/// Leaves out of a band the lines that end below `alto`; the last one left ends with "…".
+void recorta(BandaMedida& banda, double alto)
+{
+    for (TextoMedido& texto : banda.textos) {
+        size_t caben = 0;
+        while (caben < texto.renglones.size() && texto.arriba + static_cast<double>(caben + 1) * texto.altoRenglon <= alto)
+            ++caben;
+        if (caben == texto.renglones.size())
+            continue;
+        texto.renglones.resize(caben);
+        if (caben > 0)
+            ponPuntos(texto.renglones.back());
+    }
+    banda.alto = std::min(banda.alto, alto);
+}
+
 } // namespace
 
 Hoja::Hoja(const InformeEnlazado& informe, const MedidorBandas& medidor, const InicioPagina& inicio, const Contexto& numeros,
@@ -177,7 +204,7 @@ bool Hoja::parte(const BandaMedida& banda)
     return true;
 }
 
-/// The details of a row as one box beside others.
+/// The details of a row as one box beside others. A box is never cut between pages: what no page has room for is left out.
 bool Hoja::colocaCaja()
 {
     Paso& paso = m_lugar.paso;
@@ -188,14 +215,24 @@ bool Hoja::colocaCaja()
     const double ancho = (m_formato.anchoUtil() - (m_formato.columnas - 1) * m_formato.separacion) / m_formato.columnas;
     const double x = m_formato.margenes.left() + m_columna * (ancho + m_formato.separacion);
     double y = m_y;
+    bool seVe = false;
     for (const BandaEnlazada& banda : detalle) {
-        if (const auto medida = m_medidor.mide(m_informe, banda, contexto(paso.fila))) {
+        auto medida = m_medidor.mide(m_informe, banda, contexto(paso.fila));
+        if (!medida)
+            continue;
+        seVe = true;
+        const double sitio = m_limite - y;
+        const bool estaSola = y == m_y && !medida->esDivisible();
+        if (estaSola || medida->alto <= sitio + Holgura) {
             pon(*medida, paso.fila, {{x, y}});
-            y += medida->alto;
+        } else if (medida->esDivisible() && sitio > 0) {
+            recorta(*medida, sitio);
+            pon(*medida, paso.fila, {{x, y}, 0, 0, sitio});
         }
+        y += medida->alto;
     }
-    m_altoCajas = std::max(m_altoCajas, alto);
-    if (++m_columna == m_formato.columnas)
+    m_altoCajas = std::max(m_altoCajas, y - m_y);
+    if (seVe && ++m_columna == m_formato.columnas)
         cierraCajas();
     paso.banda = static_cast<int>(detalle.size()) - 1;
     m_recorrido.avanza(paso);

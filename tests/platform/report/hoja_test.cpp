@@ -193,6 +193,15 @@ TEST(Hoja, LabelsFillAcrossThenDownToTheMillimetre)
     EXPECT_THAT(prueba::textosConLugar(pliegos[1]), ElementsAre(u"25@0,0"_s));
 }
 
+TEST(Hoja, ALabelThatDoesNotShowTakesNoPlace)
+{
+    LayoutDePrueba prueba = filas(100);
+    prueba.layout.pagina.columnas = 2;
+    prueba.layout.detalle.front().mostrar = prueba.expresion(u"n <> 2"_s);
+    PaginasDePrueba hojas{prueba.layout, copiaNumerada(4)};
+    EXPECT_THAT(prueba::textosConLugar(hojas.paginas()[0]), ElementsAre(u"fila 1@10,10"_s, u"fila 3@105,10"_s, u"fila 4@10,20"_s));
+}
+
 TEST(Hoja, ColumnsHaveRoomBetweenThemAndGroupsBeginBelow)
 {
     LayoutDePrueba prueba = filas(100);
