@@ -82,34 +82,8 @@ void OrdenadorFilas::ordena()
                      [base](Ficha a, Ficha b) { return compara(claveDe(base + a.inicio), claveDe(base + b.inicio)) < 0; });
 }
 
-void OrdenadorFilas::vuelca()
-{
-    ordena();
-    auto tramo = std::make_unique<Tramo>();
-    for (const Ficha ficha : m_orden)
-        tramo->escribe(m_fichas.datos() + ficha.inicio);
-    m_tramos.push_back(std::move(tramo));
-    m_orden.clear();
-    m_fichas.recorta(0);
-}
-
-database::AlmacenFilas OrdenadorFilas::termina()
-{
-    database::AlmacenFilas destino{m_columnas};
-    if (m_tramos.empty()) {
-        ordena();
-        for (const Ficha ficha : m_orden)
-            destino.copiaFila(filaDe(m_fichas.datos() + ficha.inicio));
-        return destino;
-    }
-    if (!m_orden.empty())
-        vuelca();
-    m_fichas.sueltaMemoria();
-    mezcla(destino);
-    return destino;
-}
-
-void OrdenadorFilas::mezcla(database::AlmacenFilas& destino)
+template<class Toma>
+void OrdenadorFilas::mezcla(Toma toma)
 {
     // Of equal keys the earlier piece's goes first.
     auto detras = [this](size_t a, size_t b) {
@@ -124,11 +98,47 @@ void OrdenadorFilas::mezcla(database::AlmacenFilas& destino)
     while (!cola.empty()) {
         const size_t primero = cola.top();
         cola.pop();
-        destino.copiaFila(filaDe(m_tramos[primero]->ficha()));
+        toma(m_tramos[primero]->ficha());
         if (m_tramos[primero]->siguiente())
             cola.push(primero);
     }
     m_tramos.clear();
+}
+
+void OrdenadorFilas::vuelca()
+{
+    ordena();
+    auto tramo = std::make_unique<Tramo>();
+    for (const Ficha ficha : m_orden)
+        tramo->escribe(m_fichas.datos() + ficha.inicio);
+    m_tramos.push_back(std::move(tramo));
+    m_orden.clear();
+    m_fichas.recorta(0);
+    if (m_tramos.size() >= TramosAbiertos)
+        juntaTramos();
+}
+
+void OrdenadorFilas::juntaTramos()
+{
+    auto junto = std::make_unique<Tramo>();
+    mezcla([&junto](const char* ficha) { junto->escribe(ficha); });
+    m_tramos.push_back(std::move(junto));
+}
+
+database::AlmacenFilas OrdenadorFilas::termina()
+{
+    database::AlmacenFilas destino{m_columnas};
+    if (m_tramos.empty()) {
+        ordena();
+        for (const Ficha ficha : m_orden)
+            destino.copiaFila(filaDe(m_fichas.datos() + ficha.inicio));
+        return destino;
+    }
+    if (!m_orden.empty())
+        vuelca();
+    m_fichas.sueltaMemoria();
+    mezcla([&destino](const char* ficha) { destino.copiaFila(filaDe(ficha)); });
+    return destino;
 }
 
 } // namespace kestrane::report

@@ -16,6 +16,8 @@ class OrdenadorFilas
 {
 public:
     static constexpr qsizetype MemoriaPorDefecto = qsizetype{16} * 1024 * 1024;
+    /// So many pieces become one: each keeps a file open.
+    static constexpr size_t TramosAbiertos = 64;
 
     /// `memoria` in bytes, of the rows that are sorted at once.
     explicit OrdenadorFilas(int columnas, qsizetype memoria = MemoriaPorDefecto);
@@ -38,7 +40,10 @@ private:
 
     void ordena();
     void vuelca();
-    void mezcla(database::AlmacenFilas& destino);
+    void juntaTramos();
+    /// Gives all rows of the pieces to `toma`, in order, as they stand there; the pieces are gone then.
+    template<class Toma>
+    void mezcla(Toma toma);
 
     int m_columnas;
     qsizetype m_memoria;

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
+
 namespace kestrane::report {
 namespace {
 
@@ -52,6 +54,22 @@ TEST(OrdenadorFilas, SortsInMemory)
 TEST(OrdenadorFilas, SortsPieceByPieceInFiles)
 {
     compruebaOrden(2000);
+}
+
+TEST(OrdenadorFilas, KeepsFewFilesOpenHoweverManyPiecesThereAre)
+{
+    const database::AlmacenFilas filas = desordenadas();
+    const auto abiertos = [] { return QDir{QStringLiteral("/proc/self/fd")}.entryList(QDir::AllEntries | QDir::System).size(); };
+    const qsizetype antes = abiertos();
+    OrdenadorFilas ordenador{2, 1}; // each row a piece
+    database::LectorFilas lector{filas};
+    while (lector.siguiente()) {
+        QByteArray clave;
+        anadeClave(clave, lector.valor(0), Sentido::Ascendente);
+        ordenador.anade(clave, lector.empaquetada());
+        ASSERT_LE(abiertos() - antes, 70);
+    }
+    compruebaOrden(1);
 }
 
 TEST(OrdenadorFilas, OfNoRowsThereAreNone)
