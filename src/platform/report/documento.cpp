@@ -2,6 +2,9 @@
 
 #include "platform/report/filas_agrupadas.h"
 #include "platform/report/interior_documento.h"
+#include "platform/runtime/error_ejecucion.h"
+
+using namespace Qt::StringLiterals;
 
 namespace kestrane::report {
 
@@ -16,12 +19,23 @@ Documento::Interior::Interior(Layout layout, database::EntornoDatos& entorno) : 
 void Documento::Interior::cambia(Layout layout)
 {
     // The report's own rows stay those of its first statement, whatever the layout says now.
-    layout.dsn = m_maquetado->layout().dsn;
-    layout.sentencia = m_maquetado->layout().sentencia;
-    m_maquetado = std::make_unique<Maquetado>(
-        std::move(layout),
-        [this](const Layout& parte) { return std::make_unique<FilasAgrupadas>(parte, m_copias.de(parte, nullptr), m_regional); },
-        m_regional);
+    const Layout& primero = m_maquetado->layout();
+    const bool esOtra = layout.dsn != primero.dsn || layout.sentencia != primero.sentencia;
+    layout.dsn = primero.dsn;
+    layout.sentencia = primero.sentencia;
+    try {
+        m_maquetado = std::make_unique<Maquetado>(
+            std::move(layout),
+            [this](const Layout& parte) {
+                return std::make_unique<FilasAgrupadas>(parte, m_copias.de(parte, nullptr), m_regional);
+            },
+            m_regional);
+    } catch (const ErrorEjecucion& error) {
+        const QString consejo = u"Vuelva a sacar el informe."_s;
+        if (!esOtra || error.descripcion().contains(consejo))
+            throw;
+        throw error.conContexto(consejo); // the rows may lack what the new statement gives
+    }
 }
 
 Documento::Documento(Layout layout, database::EntornoDatos& entorno)

@@ -109,5 +109,26 @@ TEST(Documento, ALayoutThatDoesNotFitLeavesItAsItWas)
     EXPECT_THAT(textosDe(documento.pagina(0)), ElementsAre(u"fila 1"_s, u"Página 1"_s));
 }
 
+TEST(Documento, AColumnOfANewStatementNeedsTheReportAnew)
+{
+    prueba::TiendaDePrueba tienda;
+    llena(tienda, 1);
+    LayoutDePrueba prueba = lista();
+    Documento documento{prueba.layout, tienda.entorno()};
+    const auto motivo = [&] {
+        try {
+            documento.actualiza(prueba.layout);
+        } catch (const ErrorEjecucion& error) {
+            return error.descripcion();
+        }
+        return QString{};
+    };
+    prueba.layout.detalle.push_back(prueba.banda(10, u"texto2"_s));
+    EXPECT_FALSE(motivo().isEmpty());
+    EXPECT_FALSE(motivo().contains(u"Vuelva a sacar el informe."_s)) << "the statement is the same";
+    prueba.layout.sentencia = u"select texto1, texto2, numerico1 from informes"_s;
+    EXPECT_TRUE(motivo().endsWith(u"Vuelva a sacar el informe."_s)) << motivo().toStdString();
+}
+
 } // namespace
 } // namespace kestrane::report
