@@ -62,6 +62,18 @@ void ponHoja(QPrinter& impresora, const QSizeF& tamano)
     impresora.setPageMargins(QMarginsF{});
 }
 
+/// Composes all pages without a printer: an error among them must come before the job begins, for Qt has no way to take back one
+/// that was begun. False when it was broken off.
+bool compruebaPaginas(const TrabajoImpresion& trabajo, const Intervalo& intervalo, const AvanceImpresion& avance)
+{
+    for (int indice = intervalo.primera; indice <= intervalo.ultima; ++indice) {
+        if (avance && !avance(0))
+            return false;
+        static_cast<void>(trabajo.pagina(indice));
+    }
+    return true;
+}
+
 [[noreturn]] void noTomaElTrabajo(const QString& nombre)
 {
     throw ErrorDeSalida{u"la impresora \"%1\" no admite el trabajo"_s.arg(nombre)};
@@ -73,12 +85,13 @@ bool imprimeTrabajo(const TrabajoImpresion& trabajo, const PeticionImpresion& pe
 {
     const QString nombre = elige(peticion.impresora);
     const Intervalo intervalo = intervaloDe(peticion, trabajo.paginas);
+    if (!compruebaPaginas(trabajo, intervalo, avance))
+        return false;
     QPrinter impresora{QPrinterInfo::printerInfo(nombre), QPrinter::HighResolution};
     prepara(impresora, trabajo, peticion);
     QPainter lienzo;
     for (int indice = intervalo.primera; indice <= intervalo.ultima; ++indice) {
         const double hecho = static_cast<double>(indice - intervalo.primera) / (intervalo.ultima - intervalo.primera + 1);
-        // Qt has no way to take back a job that was begun.
         if (avance && !avance(hecho) && indice == intervalo.primera)
             return false;
         const report::PaginaCompuesta pagina = trabajo.pagina(indice);

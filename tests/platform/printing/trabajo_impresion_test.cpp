@@ -113,14 +113,29 @@ TEST_F(TrabajoImpresionTest, WithoutAnyPrinterItSaysSo)
 TEST_F(TrabajoImpresionTest, APrinterThatVanishesWhileItPrintsIsAnError)
 {
     TrabajoImpresion largo = trabajo(2);
-    largo.pagina = [this](int indice) {
-        if (indice == 1) {
+    int veces = 0;
+    largo.pagina = [this, &veces](int indice) {
+        if (indice == 1 && ++veces == 2) { // the first time it is only looked at
             s_servidor->quitaCola(u"Laser"_s);
             m_colas.removeOne(u"Laser"_s);
         }
         return pagina(indice, {210, 297});
     };
     EXPECT_EQ(motivo(largo, {.impresora = u"Laser"_s}), u"la impresora \"Laser\" no existe"_s);
+}
+
+TEST_F(TrabajoImpresionTest, APageThatCannotBeMadeLeavesNothingInTheQueue)
+{
+    const int antes = s_servidor->trabajos();
+    TrabajoImpresion roto = trabajo(3);
+    roto.pagina = [](int indice) {
+        if (indice == 2)
+            throw ErrorDeSalida{u"la página no sale"_s};
+        return pagina(indice, {210, 297});
+    };
+    EXPECT_EQ(motivo(roto, {.impresora = u"Laser"_s}), u"la página no sale"_s);
+    EXPECT_TRUE(imprimeTrabajo(trabajo(1), {.impresora = u"Laser"_s}, {}));
+    EXPECT_EQ(paginasDe(s_servidor->trabajo(antes + 1)), QStringList{u"página 1 señalada"_s}) << "the second alone";
 }
 
 TEST_F(TrabajoImpresionTest, PagesThatTheReportDoesNotHaveAreAnError)
@@ -145,7 +160,7 @@ TEST_F(TrabajoImpresionTest, AJobThatWasBegunComesOutWhole)
         avisos.push_back(hecho);
         return hecho == 0;
     }));
-    EXPECT_THAT(avisos, testing::ElementsAre(0, 0.25, 0.5, 0.75));
+    EXPECT_THAT(avisos, testing::ElementsAre(0, 0, 0, 0, 0, 0.25, 0.5, 0.75));
     EXPECT_EQ(paginasDe(s_servidor->trabajo(antes + 1)).size(), 4);
 }
 
