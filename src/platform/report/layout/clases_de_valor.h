@@ -11,6 +11,8 @@ inline constexpr ClaseValor Palabra{u"palabra", u"[A-Za-z][A-Za-z0-9_]{0,39}", u
 inline constexpr ClaseValor Letra{u"letra", u"[A-Za-z0-9][A-Za-z0-9 _-]{0,59}", u"el nombre de un tipo de letra"};
 inline constexpr ClaseValor SiNo{u"siNo", u"si|no", u"«si» o «no»"};
 inline constexpr ClaseValor Medida{u"medida", u"[0-9]{1,4}(\\.[0-9]{1,3})?", u"una medida en milímetros, como 12.5"};
+inline constexpr ClaseValor Largo{u"largo", u"[0-9]{1,3}(\\.[0-9]{1,3})?|[1-4][0-9]{3}(\\.[0-9]{1,3})?|5000",
+                                  u"una medida en milímetros hasta 5000"};
 inline constexpr ClaseValor Ancho{u"ancho", u"\\*|[0-9]{1,4}(\\.[0-9]{1,3})?", u"una medida en milímetros, como 12.5, o «*»"};
 inline constexpr ClaseValor Cuerpo{u"cuerpo", u"[1-9][0-9]{0,2}(\\.[0-9]{1,2})?", u"un cuerpo de letra en puntos, como 8.5"};
 inline constexpr ClaseValor Columnas{u"columnas", u"[1-9]|1[0-9]|20", u"un número de 1 a 20"};

@@ -5,6 +5,7 @@
 #include "platform/report/layout/lector_secciones.h"
 #include "platform/report/layout/lector_tabla.h"
 #include "platform/report/layout/lectura_atributos.h"
+#include "platform/report/layout/limites.h"
 
 #include <algorithm>
 
@@ -20,10 +21,11 @@ struct SeccionConocida
     Seccion Layout::*seccion;
 };
 
+/// What stands on each page first: the others have the room that it leaves.
 constexpr SeccionConocida Secciones[] = {
-    {u"cabecera-informe", &Layout::cabeceraInforme},
     {u"cabecera-pagina", &Layout::cabeceraPagina},
     {u"pie-pagina", &Layout::piePagina},
+    {u"cabecera-informe", &Layout::cabeceraInforme},
     {u"pie-informe", &Layout::pieInforme},
 };
 
@@ -73,6 +75,8 @@ private:
         for (const ElementoXml& xml : m_xml.hijos) {
             if (xml.nombre != u"grupo")
                 continue;
+            if (m_layout.grupos.size() == limites::Grupos)
+                fallaLayout(xml.lugar, u"hay demasiados grupos: se admiten %1."_s.arg(limites::Grupos));
             Grupo grupo;
             grupo.nombre = textoDe(xml, u"nombre");
             if (hayGrupo(grupo.nombre) || grupo.nombre.compare(u"informe", Qt::CaseInsensitive) == 0)

@@ -15,10 +15,11 @@ namespace {
 constexpr auto Obligatorio = Presencia::Obligatorio;
 
 constexpr const ClaseValor* Clases[] = {
-    &clases::Texto,   &clases::Expresion,  &clases::Nombre,   &clases::Palabra,  &clases::Letra,         &clases::SiNo,
-    &clases::Medida,  &clases::Ancho,      &clases::Cuerpo,   &clases::Columnas, &clases::Decimales,     &clases::Color,
-    &clases::Fondo,   &clases::Horizontal, &clases::Vertical, &clases::Sentido,  &clases::Orientacion,   &clases::Cero,
-    &clases::Formato, &clases::Total,      &clases::Papel,    &clases::Margenes, &clases::FicheroPartes, &clases::FicheroImagen,
+    &clases::Texto,    &clases::Expresion, &clases::Nombre,      &clases::Palabra,       &clases::Letra,
+    &clases::SiNo,     &clases::Medida,    &clases::Largo,       &clases::Ancho,         &clases::Cuerpo,
+    &clases::Columnas, &clases::Decimales, &clases::Color,       &clases::Fondo,         &clases::Horizontal,
+    &clases::Vertical, &clases::Sentido,   &clases::Orientacion, &clases::Cero,          &clases::Formato,
+    &clases::Total,    &clases::Papel,     &clases::Margenes,    &clases::FicheroPartes, &clases::FicheroImagen,
 };
 
 constexpr HijoVocabulario Raices[] = {{u"informe", u"informe"}, {u"partes", u"partes"}};
@@ -51,7 +52,7 @@ constexpr AtributoVocabulario DePagina[] = {
 constexpr AtributoVocabulario DeRollo[] = {
     {u"ancho", &clases::Medida, Obligatorio},
     {u"margenes", &clases::Margenes},
-    {u"largo-maximo", &clases::Medida},
+    {u"largo-maximo", &clases::Largo},
 };
 
 constexpr AtributoVocabulario DeEstilo[] = {

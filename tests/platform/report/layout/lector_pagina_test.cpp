@@ -47,6 +47,8 @@ TEST(LectorPagina, UnRolloEsTanLargoComoSuContenido)
 
 TEST(LectorPagina, Rechazos)
 {
+    EXPECT_TRUE(rechazoDe(u"<rollo ancho=\"80\" largo-maximo=\"5000.5\"/>"_s).contains(u"hasta 5000"_s));
+    EXPECT_TRUE(rechazoDe(u"<rollo ancho=\"80\" largo-maximo=\"9000\"/>"_s).contains(u"hasta 5000"_s));
     EXPECT_TRUE(rechazoDe(u"<pagina/><rollo ancho=\"80\"/>"_s).contains(u"solo puede haber uno de los dos"_s));
     EXPECT_EQ(rechazoDe(u"<pagina margenes=\"100 0 110 0\"/>"_s),
               u"K_x.rpt, línea 2: los márgenes y las columnas no dejan sitio en el papel."_s);

@@ -32,5 +32,23 @@ TEST(LeeSeccion, UnaExpresionRotaDiceSuLinea)
                     .startsWith(u"K_x.rpt, línea 3: en «a >»"_s));
 }
 
+TEST(LectorSecciones, UnaBandaMasAltaQueLaPaginaSeRechaza)
+{
+    const QString pagina = u"<pagina papel=\"100x100\" margenes=\"5 10 5 10\"/><pie-pagina><banda alto=\"20\"/></pie-pagina>\n"_s;
+    EXPECT_EQ(prueba::rechazoDe(pagina + u"<detalle><banda alto=\"60.5\"/></detalle>"_s),
+              u"K_x.rpt, línea 3: la banda es más alta que el sitio que deja la página: caben 60 mm."_s);
+    EXPECT_EQ(prueba::rechazoDe(pagina + u"<detalle><banda alto=\"60\"/></detalle>"_s), QString{});
+    EXPECT_EQ(prueba::rechazoDe(u"<rollo ancho=\"80\"/><detalle><banda alto=\"600\"/></detalle>"_s), QString{});
+}
+
+TEST(LectorSecciones, NoMasDeVeinteGrupos)
+{
+    QString grupos;
+    for (int i = 1; i <= 20; ++i)
+        grupos += u"<grupo nombre=\"g%1\" por=\"a\"/>"_s.arg(i);
+    EXPECT_EQ(prueba::rechazoDe(grupos), QString{});
+    EXPECT_TRUE(prueba::rechazoDe(grupos + u"<grupo nombre=\"otro\" por=\"a\"/>"_s).contains(u"se admiten 20"_s));
+}
+
 } // namespace
 } // namespace kestrane::report
