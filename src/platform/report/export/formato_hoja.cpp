@@ -80,8 +80,13 @@ std::optional<double> numeroDeHoja(const Valor& valor)
 
 QString textoDeHoja(const QString& texto)
 {
-    QString limpio = texto.left(TextoMaximo);
+    QString limpio = texto;
     limpio.remove(QChar{u'\0'}).remove(QChar{0xFFFE}).remove(QChar{0xFFFF});
+    if (limpio.size() <= TextoMaximo)
+        return limpio;
+    const bool parteLetra = limpio[TextoMaximo - 2].isHighSurrogate();
+    limpio.truncate(TextoMaximo - (parteLetra ? 2 : 1));
+    limpio += u'…';
     return limpio;
 }
 

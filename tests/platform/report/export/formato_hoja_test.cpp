@@ -68,6 +68,11 @@ TEST(NumeroDeHoja, WhatASheetCountsOtherwiseIsText)
 TEST(TextoDeHoja, IsCutAtWhatACellTakes)
 {
     EXPECT_EQ(textoDeHoja(QString(40000, u'x')).size(), 32767);
+    EXPECT_TRUE(textoDeHoja(QString(40000, u'x')).endsWith(u"x…"_s));
+    EXPECT_EQ(textoDeHoja(QString(32767, u'x')), QString(32767, u'x'));
+    const QString conCara = QString(32765, u'x') + u"\U0001F600"_s;
+    EXPECT_EQ(textoDeHoja(conCara), conCara);
+    EXPECT_EQ(textoDeHoja(conCara + u'x'), QString(32765, u'x') + u'…') << "half a letter is none";
     EXPECT_EQ(textoDeHoja(u"a\uFFFFb"_s), u"ab"_s);
 }
 
