@@ -20,7 +20,7 @@ constexpr double MilimetrosPorPulgada = 25.4;
 /// The name of the printer that takes the job.
 QString elige(const QString& pedida)
 {
-    const QString nombre = pedida.isEmpty() ? impresoraPredeterminada() : pedida;
+    QString nombre = pedida.isEmpty() ? impresoraPredeterminada() : pedida;
     if (nombre.isEmpty())
         throw ErrorDeSalida{u"no hay ninguna impresora"_s};
     if (!existeImpresora(nombre))

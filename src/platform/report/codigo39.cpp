@@ -76,7 +76,7 @@ bool esCodigo39(const QString& valor)
 {
     constexpr std::u16string_view Signos = u"0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz-. $/+%";
     return !valor.isEmpty() &&
-           std::all_of(valor.begin(), valor.end(), [&](QChar c) { return Signos.find(c.unicode()) != Signos.npos; });
+           std::all_of(valor.begin(), valor.end(), [&](QChar c) { return Signos.find(c.unicode()) != std::u16string_view::npos; });
 }
 
 std::vector<QRectF> barrasCodigo39(const QString& valor, const QRectF& caja)

@@ -153,7 +153,8 @@ std::vector<Renglon> parteEnRenglones(const MedidaEstilo& medida, const QString&
 
 Renglon cortaRenglon(const MedidaEstilo& medida, const QString& texto, double ancho)
 {
-    const QString renglon = enBlanco(texto.first(std::min(texto.size(), LargoDeRenglon)));
+    const bool parteLetra = texto.size() > LargoDeRenglon && texto[LargoDeRenglon - 1].isHighSurrogate();
+    const QString renglon = enBlanco(texto.first(std::min(texto.size(), LargoDeRenglon - (parteLetra ? 1 : 0))));
     return medida.sencillo(renglon) ? cortaSencillo(medida, renglon, ancho) : cortaFormado(medida, renglon, ancho);
 }
 

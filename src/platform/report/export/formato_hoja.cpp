@@ -34,7 +34,7 @@ QByteArray formatoDia(const ConfiguracionRegional& regional)
 QByteArray formatoFecha(Fecha fecha, Formato formato, const ConfiguracionRegional& regional)
 {
     const bool general = formato != Formato::Fecha && formato != Formato::FechaHora && formato != Formato::Hora;
-    const QByteArray hora = general ? "h:mm:ss" : "h:mm";
+    QByteArray hora = general ? "h:mm:ss" : "h:mm";
     if (formato == Formato::Hora || (fecha.esDiaCero() && formato != Formato::Fecha))
         return hora;
     const bool conHora = formato == Formato::FechaHora || (general && !fecha.esMedianoche());

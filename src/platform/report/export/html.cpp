@@ -97,7 +97,7 @@ public:
 
     void empiezaGrupo(int grupo, const QString& titulo) override
     {
-        m_texto += "<tr class=\"grupo n" + QByteArray::number(grupo) + "\"><th scope=\"rowgroup\" colspan=\"" +
+        m_texto += R"(<tr class="grupo n)" + QByteArray::number(grupo) + R"("><th scope="rowgroup" colspan=")" +
                    QByteArray::number(m_tabla.columnas().size()) + "\">" + sinMarcas(titulo) + "</th></tr>\n";
     }
 
@@ -125,8 +125,9 @@ public:
 private:
     void celdaDe(const Valor& valor, size_t columna, const FormatoValor& formato)
     {
-        const QByteArray escrito = sinMarcas(escribeValor(valor, formato, m_tabla.regional()));
-        celda("td", claseDe(m_tabla.columnas()[columna].horizontal), escrito, "td");
+        const QString escrito = escribeValor(valor, formato, m_tabla.regional());
+        const char* const abre = escrito.isRightToLeft() ? "td dir=\"rtl\"" : "td";
+        celda(abre, claseDe(m_tabla.columnas()[columna].horizontal), sinMarcas(escrito), "td");
     }
 
     void celda(const char* abre, const char* clase, const QByteArray& contenido, const char* cierra)

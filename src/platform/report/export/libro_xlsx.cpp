@@ -21,7 +21,6 @@ namespace {
 
 constexpr double MilimetrosPorSigno = 1.6; ///< of a column's width, with room for the sheet's larger type
 constexpr double AnchoMinimo = 6;
-constexpr double MilimetrosPorPulgada = 25.4;
 constexpr int NivelMaximo = 7; ///< of a sheet's outline
 constexpr lxw_color_t Tinta = 0x24425C;
 constexpr lxw_color_t FondoTotal = 0xEDF2F6;
@@ -76,12 +75,18 @@ uint8_t lado(Horizontal horizontal)
 }
 
 /// In headers and footers "&" begins a command.
-QByteArray paraCabecera(QString titulo)
+QByteArray paraCabecera(const QString& titulo)
 {
     return titulo.left(100).replace(u'&', u"&&"_s).toUtf8();
 }
 
 } // namespace
+
+void compruebaFilasDeHoja(qint64 filas)
+{
+    if (filas > LXW_ROW_MAX)
+        throw ErrorDeSalida{u"una hoja de cálculo no admite más de %1 filas"_s.arg(LXW_ROW_MAX)};
+}
 
 LibroXlsx::LibroXlsx(const QString& fichero, const QString& carpeta, const QString& titulo) : m_fichero{fichero}, m_carpeta{carpeta}
 {
@@ -127,8 +132,7 @@ void LibroXlsx::ponAncho(int columna, double milimetros)
 
 void LibroXlsx::nuevaFila(int nivel)
 {
-    if (++m_fila >= LXW_ROW_MAX)
-        throw ErrorDeSalida{u"una hoja de cálculo no admite más de %1 filas"_s.arg(LXW_ROW_MAX)};
+    compruebaFilasDeHoja(++m_fila + 1);
     if (nivel == 0)
         return;
     lxw_row_col_options opciones{};

@@ -17,6 +17,9 @@ namespace kestrane::report {
 /// What kind of row a cell stands in: the heading, a group's title, a row, a total.
 enum class ClaseFila { Cabecera, Grupo, Datos, Total };
 
+/// ErrorDeSalida for more rows, the heading among them, than a sheet has.
+void compruebaFilasDeHoja(qint64 filas);
+
 /// A workbook of one sheet on its way to a file. Rows are written from top to bottom and leave the memory at once.
 class LibroXlsx
 {
@@ -33,7 +36,7 @@ public:
     /// Begins the next row, at this level of the outline (0: none).
     void nuevaFila(int nivel);
     /// A cell of that row, from left to right: numbers and dates as such. Null leaves it empty but for its looks.
-    void celda(int columna, const Valor& valor, const FormatoValor& formato, Horizontal horizontal, ClaseFila clase,
+    void celda(int columna, const Valor& valor, const FormatoValor& comoValor, Horizontal horizontal, ClaseFila clase,
                const ConfiguracionRegional& regional);
 
     /// Puts the file on the disk. ErrorDeSalida, also when the disk did not take some of it on the way.
@@ -41,8 +44,8 @@ public:
 
 private:
     lxw_format* formato(const QByteArray& numero, Horizontal horizontal, ClaseFila clase);
-    void numero(int columna, double valor, lxw_format* formato);
-    void texto(int columna, const QString& valor, lxw_format* formato);
+    void numero(int columna, double valor, lxw_format* visto);
+    void texto(int columna, const QString& valor, lxw_format* visto);
     void compruebaDisco() const;
 
     QString m_fichero;

@@ -79,6 +79,8 @@ private:
 
 bool escribeXlsx(const TablaInforme& tabla, const QString& fichero, const AvanceExportacion& avance)
 {
+    constexpr int Cabecera = 1;
+    compruebaFilasDeHoja(tabla.filas() + Cabecera); // before millions of them are written in vain
     const CarpetaProvisional carpeta{destinoDeEscritura(fichero)};
     const QString nombre = u"libro.xlsx"_s;
     LibroXlsx libro{carpeta.ruta(nombre), carpeta.ruta(), tabla.titulo()};

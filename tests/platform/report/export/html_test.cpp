@@ -44,6 +44,15 @@ TEST(Html, ItCanBeBrokenOff)
     EXPECT_FALSE(escribeHtml(informe.tabla(), destino, [](double) { return false; }));
 }
 
+TEST(Html, WhatIsWrittenFromTheRightReadsFromTheRight)
+{
+    InformeDePrueba informe{{u"t"_s}};
+    informe.columna(u"Nombre"_s, u"t"_s);
+    informe.fila({u"שלום (1)"_s});
+    informe.fila({u"Ana"_s});
+    EXPECT_THAT(html(informe), HasSubstr("<tr><td dir=\"rtl\">שלום (1)</td></tr>\n<tr><td>Ana</td></tr>"));
+}
+
 TEST(Html, NothingInTheDataIsTakenForMarkup)
 {
     InformeDePrueba informe{{u"t"_s}};

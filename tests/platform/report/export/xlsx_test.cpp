@@ -53,6 +53,21 @@ TEST_F(Xlsx, AFolderThatIsNotThereIsAnError)
     EXPECT_EQ(nombres(), QStringList{});
 }
 
+TEST_F(Xlsx, MoreRowsThanASheetHasAreRefusedBeforeOneIsWritten)
+{
+    InformeDePrueba informe{{u"a"_s}};
+    informe.filas.valores.resize(1048576, {Valor{}});
+    int avisos = 0;
+    EXPECT_THROW(escribeXlsx(informe.tabla(), fichero(),
+                             [&avisos](double) {
+                                 ++avisos;
+                                 return false;
+                             }),
+                 ErrorDeSalida);
+    EXPECT_EQ(avisos, 0);
+    EXPECT_EQ(nombres(), QStringList{});
+}
+
 TEST_F(Xlsx, WhatIsBrokenOffLeavesNothing)
 {
     InformeDePrueba informe{{u"a"_s}};
