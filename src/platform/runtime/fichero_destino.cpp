@@ -53,7 +53,7 @@ QString estorboEn(const QString& fichero)
 
 QString destinoDeEscritura(const QString& nombre)
 {
-    const QString destino = sigueEnlaces(nombre);
+    QString destino = sigueEnlaces(nombre);
     const QString estorbo = estorboEn(destino);
     if (!estorbo.isEmpty())
         throw ErrorDeSalida{u"\"%1\": %2"_s.arg(nombre, estorbo)};
