@@ -43,6 +43,15 @@ QPushButton* boton(const QString& objeto, const QString& texto, QWidget* padre)
     return nuevo;
 }
 
+/// A row whose caption stands at half the height of its field, which is as high as a finger needs.
+void anadeFila(QFormLayout& formulario, const QString& leyenda, QWidget* campo)
+{
+    auto* rotulo = new QLabel{leyenda, campo->parentWidget()};
+    rotulo->setMinimumHeight(LadoBoton);
+    rotulo->setBuddy(campo);
+    formulario.addRow(rotulo, campo);
+}
+
 } // namespace
 
 DialogoImpresion::DialogoImpresion(const ImpresionVista& impresion, const QString& preferida, int paginas, int actual,
@@ -65,12 +74,12 @@ DialogoImpresion::DialogoImpresion(const ImpresionVista& impresion, const QStrin
     formulario->setContentsMargins(24, 20, 24, 20);
     formulario->setSpacing(10);
     formulario->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    formulario->addRow(u"&Impresora"_s, m_impresora);
+    anadeFila(*formulario, u"&Impresora"_s, m_impresora);
     formulario->addRow(m_sinImpresora);
     formulario->addRow(m_todas);
     formulario->addRow(m_soloActual);
     formulario->addRow(filaDePaginas(paginas));
-    formulario->addRow(u"C&opias"_s, m_copias);
+    anadeFila(*formulario, u"C&opias"_s, m_copias);
     formulario->addRow(filaDeBotones());
     m_todas->setChecked(true);
     connect(m_desde, &QSpinBox::valueChanged, this, &DialogoImpresion::ajusta);

@@ -10,13 +10,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QColor ColorAcierto{255, 214, 0, 110};
-constexpr QColor ColorActual{255, 120, 0, 150};
+constexpr QColor ColorAcierto{255, 236, 140};
+constexpr QColor ColorActual{255, 178, 102};
 constexpr int PasosSombra = 5;
 
 void pintaTrecho(QPainter& pintor, const QRectF& caja, double escala, QColor color)
 {
+    // Like a marker pen: what is printed there stays as dark as it was.
+    pintor.setCompositionMode(QPainter::CompositionMode_Multiply);
     pintor.fillRect(QRectF{caja.topLeft() * escala, caja.size() * escala}, color);
+    pintor.setCompositionMode(QPainter::CompositionMode_SourceOver);
 }
 
 } // namespace

@@ -210,7 +210,7 @@ void VentanaVista::trabaja(const QString& que, const std::function<QString()>& h
     m_enObra.clear();
     dialogo.hide();
     if (!motivo.isEmpty())
-        m_banda->di(BandaAviso::Clase::Fallo, u"%1: no se ha podido. %2"_s.arg(que, motivo));
+        m_banda->di(BandaAviso::Clase::Fallo, u"%1, algo ha fallado: %2"_s.arg(que, motivo));
     else
         m_banda->di(BandaAviso::Clase::Noticia, acabado ? hecho() : u"%1: cancelado."_s.arg(que));
     m_paginas.olvida();

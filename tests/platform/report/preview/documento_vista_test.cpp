@@ -133,7 +133,7 @@ TEST_F(DocumentoVistaTest, AWindowWritesRealFilesAndTellsWhereItCannot)
     exportaPdf->trigger();
     auto* banda = ventana.findChild<BandaAviso*>();
     EXPECT_TRUE(banda->isVisible());
-    EXPECT_TRUE(banda->texto().startsWith(u"Exportando: no se ha podido."_s)) << banda->texto().toStdString();
+    EXPECT_TRUE(banda->texto().startsWith(u"Exportando, algo ha fallado:"_s)) << banda->texto().toStdString();
     EXPECT_TRUE(ventana.isVisible());
     EXPECT_FALSE(QFile::exists(elegido));
 }

@@ -190,7 +190,7 @@ TEST_F(VentanaVistaTrabajos, AFolderWithoutRightsIsToldAndTheWindowStays)
     };
     elegido = u"x.pdf"_s;
     exporta(FormatoExportacion::Pdf);
-    EXPECT_EQ(aviso(), u"Exportando: no se ha podido. permiso denegado"_s);
+    EXPECT_EQ(aviso(), u"Exportando, algo ha fallado: permiso denegado"_s);
     EXPECT_TRUE(ventana->isVisible());
     EXPECT_TRUE(esperaCompleta()) << "it goes on laying out";
 }
@@ -284,7 +284,7 @@ TEST_F(VentanaVistaTrabajos, APrinterThatVanishedIsTold)
     impresion.alImprimir = [](const AvanceExportacion&) -> bool { throw ErrorDeSalida{u"La impresora HP no responde."_s}; };
     pulsa(u"imprimir");
     aceptaImpresion();
-    EXPECT_EQ(aviso(), u"Imprimiendo: no se ha podido. La impresora HP no responde."_s);
+    EXPECT_EQ(aviso(), u"Imprimiendo, algo ha fallado: La impresora HP no responde."_s);
 }
 
 TEST_F(VentanaVistaTrabajos, TheNextReportOffersThePrinterThatWasChosen)
