@@ -1,5 +1,7 @@
 #include "pipeline/forms/ventana_con_barra.h"
 
+#include "platform/suite/color_decimal.h"
+
 #include <QKeyEvent>
 #include <QLabel>
 #include <QVBoxLayout>
@@ -75,11 +77,11 @@ void VentanaConBarra::viste(AspectoVentanas& aspecto)
 {
     aspecto.TraducirForm(*this);
     aspecto.PintarForm(*this);
-    const QColor fondo = aspecto.DarColorFondo();
-    if (!fondo.isValid())
+    const std::optional<Rgb> fondo = rgbDeDecimal(aspecto.DarColorFondo());
+    if (!fondo)
         return;
     QPalette colores = palette();
-    colores.setColor(QPalette::Window, fondo);
+    colores.setColor(QPalette::Window, QColor::fromRgb(*fondo));
     setPalette(colores);
 }
 

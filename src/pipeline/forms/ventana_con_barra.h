@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pipeline/forms/aspecto_ventanas.h"
+#include "platform/suite/windows/aspecto_ventanas.h"
 #include "run_context/contexto_ejecucion.h"
 
 #include <QDialog>

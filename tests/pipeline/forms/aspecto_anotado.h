@@ -1,19 +1,19 @@
 #pragma once
 
-#include "pipeline/forms/aspecto_ventanas.h"
+#include "platform/suite/windows/aspecto_ventanas.h"
 
 #include <QStringList>
 
 namespace kestrane::prueba {
 
 /// Writes down what is done to a window, in order.
-class AspectoAnotado final : public AspectoVentanas
+class AspectoAnotado final : public AspectoNeutro
 {
 public:
     [[nodiscard]] QPoint esquinaPrincipal() const override { return esquina; }
     void TraducirForm(QWidget& ventana) override { pasos += QStringLiteral("TraducirForm ") + ventana.objectName(); }
     void PintarForm(QWidget& ventana) override { pasos += QStringLiteral("PintarForm ") + ventana.objectName(); }
-    [[nodiscard]] QColor DarColorFondo() override
+    [[nodiscard]] QString DarColorFondo() override
     {
         pasos += QStringLiteral("DarColorFondo");
         return fondo;
@@ -29,7 +29,7 @@ public:
     }
 
     QPoint esquina{100, 200};
-    QColor fondo{Qt::cyan};
+    QString fondo{QStringLiteral("16776960")}; // cyan;
     QStringList pasos;
 };
 
