@@ -4,6 +4,8 @@
 
 #include <QStringList>
 
+#include <functional>
+
 namespace kestrane::prueba {
 
 /// Writes down what is done to a window, in order.
@@ -18,6 +20,22 @@ public:
         pasos += QStringLiteral("DarColorFondo");
         return fondo;
     }
+    [[nodiscard]] QString DarColorResalte() override
+    {
+        pasos += QStringLiteral("DarColorResalte");
+        return QStringLiteral("65535"); // yellow
+    }
+    [[nodiscard]] QString DarColorBoton() override
+    {
+        pasos += QStringLiteral("DarColorBoton");
+        return QStringLiteral("255"); // red
+    }
+    void AplicarLetra(QWidget& ventana) override { pasos += QStringLiteral("AplicarLetra ") + ventana.objectName(); }
+    void AplicarPermisos(QWidget& ventana) override
+    {
+        pasos += QStringLiteral("AplicarPermisos ") + ventana.objectName();
+        alAplicarPermisos(ventana);
+    }
     void EscalarForm(QWidget& ventana, TamanoVentana destino, TamanoVentana origen) override
     {
         pasos += QStringLiteral("EscalarForm %1 de %2x%3 a %4x%5")
@@ -28,6 +46,8 @@ public:
                      .arg(destino.alto);
     }
 
+    /// What an employee's rights do to the window.
+    std::function<void(QWidget&)> alAplicarPermisos = [](QWidget&) {};
     QPoint esquina{100, 200};
     QString fondo{QStringLiteral("16776960")}; // cyan;
     QStringList pasos;

@@ -1,0 +1,26 @@
+#include "escritorio/mostrador.h"
+
+#include "platform/report/export/exportacion.h"
+
+namespace kestrane::escritorio {
+
+Mostrador::Mostrador(const PiezasMostrador& piezas)
+    : m_menu{{.contexto = piezas.contexto,
+              .aspecto = piezas.aspecto,
+              .preferencias = piezas.preferencias,
+              .reloj = piezas.reloj,
+              .mensajes = m_mensajes,
+              .ObtenerList1 = piezas.ObtenerList1,
+              .pulsa = [this](const catalogue::FilaCatalogo& fila) { m_ejecutor.ejecuta(fila); },
+              .termina = piezas.termina}}
+    , m_progreso{piezas.contexto, piezas.aspecto, &m_menu}
+    , m_espera{piezas.contexto, piezas.aspecto, piezas.tics, &m_menu}
+    , m_vistas{{.impresion = &m_impresion}}
+    , m_report{m_vistas, abreDocumento(piezas.contexto.ConexionListados.entorno(), report::exporta)}
+    , m_salida{piezas.contexto, {m_report, m_impresoras, m_espera, m_mensajes, m_eventos}}
+    , m_ejecutor{piezas.contexto, {m_menu, m_dialogos, m_progreso, m_salida, m_mensajes}, piezas.reloj}
+{
+    m_dialogos.ofrece(Dialogo::EtiquetasClientes, [this](const QString&) { m_menu.tomaEtiquetas(); });
+}
+
+} // namespace kestrane::escritorio
