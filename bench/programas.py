@@ -12,6 +12,7 @@ import tempfile
 import time
 
 PROVEEDORES = 20_000
+PROVEEDORES_EN_PAPEL = 100_000
 
 
 def peak_of_children():
@@ -48,15 +49,23 @@ def listado(folder, data, *words):
     return [f"{folder}/bin/listados-lote", "--datos", data, *words]
 
 
-def fill_with_suppliers(folder, data):
-    """An empty shop with PROVEEDORES suppliers."""
+def fill_with_suppliers(folder, data, suppliers):
+    """An empty shop with so many suppliers."""
     subprocess.run([f"{folder}/bin/crear-tienda", "--vacia", "--datos", data], check=True, stdout=subprocess.DEVNULL)
     statements = os.path.join(data, "altas.sql")
     with open(statements, "w", encoding="utf-8") as file:
-        for code in range(1, PROVEEDORES + 1):
+        for code in range(1, suppliers + 1):
             file.write("insert into proveedores (codigo, codigocliente, nombre, direccion, cp, telefono, nif, borrar) values "
                        f"({code}, 'P{code}', 'Distribuciones Núñez {code}', 'Calle Mayor {code}', '46001', '963000000', 'B46000000', 0)\n")
     subprocess.run(listado(folder, data, "--escribir", "--sql-fichero", statements), check=True, stdout=subprocess.DEVNULL)
+
+
+def menu(folder, program_folder):
+    """The start of the desktop program without a screen, and its parts, as the last of several starts tells them."""
+    os.environ["QT_QPA_PLATFORM"] = "offscreen"
+    command = [f"{folder}/bin/kestrane_arranque_menu", program_folder]
+    measure("listados, up to a menu that waits", "under 0.5 s", command, 5)
+    print(f"|   its parts: {subprocess.run(command, check=True, capture_output=True, text=True).stdout.strip()} | | | |")
 
 
 def main():
@@ -69,10 +78,19 @@ def main():
         for size, goal in sizes:
             measure(f"crear-tienda --tamano {size}", goal, crea(folder, f"{data}/{size}", size))
     with tempfile.TemporaryDirectory() as data:
-        fill_with_suppliers(folder, data)
+        subprocess.run(crea(folder, f"{data}/datos", "dia"), check=True, stdout=subprocess.DEVNULL)
+        menu(folder, data)
+    with tempfile.TemporaryDirectory() as data:
+        fill_with_suppliers(folder, data, PROVEEDORES)
         measure(f"listados-lote, {PROVEEDORES} rows in JSON", "under 0.3 s", listado(folder, data, "cmd_Generales10"), 1 if smoke else 5)
         measure(f"listados-lote, {PROVEEDORES} rows in CSV", "under 0.3 s",
                 listado(folder, data, "cmd_Generales10", "--formato", "csv"), 1 if smoke else 5)
+    on_paper = 1_000 if smoke else PROVEEDORES_EN_PAPEL
+    with tempfile.TemporaryDirectory() as data:
+        fill_with_suppliers(folder, data, on_paper)
+        for form, goal in (("xlsx", "under 5 s"), ("pdf", ""), ("html", "")):
+            measure(f"listados-lote, {on_paper} rows in {form.upper()}", goal,
+                    listado(folder, data, "cmd_Generales10", "--formato", form, "--salida", f"{data}/p.{form}"))
 
 
 main()

@@ -64,6 +64,7 @@ void ponFondo(QWidget& quien, const QString& decimal)
 void FrmListados::carga()
 {
     m_servicios.aspecto.TraducirForm(*this);
+    ponEmpresa();
     ponBandera();
     colocaAviso();
     ColorearMe();
@@ -73,6 +74,15 @@ void FrmListados::carga()
     m_servicios.aspecto.AplicarPermisos(*this);
     OcultarListadosOtrosProgramas();
     ListadoDirecto();
+}
+
+/// Whose shop it is, and which of its stores.
+void FrmListados::ponEmpresa()
+{
+    const ContextoEjecucion& contexto = m_servicios.contexto;
+    const bool conTienda = contexto.MultiTienda && !contexto.NombreTienda.isEmpty();
+    m_empresa->setTextFormat(Qt::PlainText);
+    m_empresa->setText(conTienda ? contexto.NombreEmpresa + u" · "_s + contexto.NombreTienda : contexto.NombreEmpresa);
 }
 
 void FrmListados::ponBandera()

@@ -85,6 +85,7 @@ private:
 
     // The steps of the load and of what is pressed.
     void ponBandera();
+    void ponEmpresa();
     void colocaAviso();
     void EscalarMe();
     void cambiaTamano();
@@ -101,6 +102,7 @@ private:
     QFrame* m_separacion = nullptr;
     PanelTarjetas* m_grupos = nullptr;
     QLabel* m_bandera = nullptr;
+    QLabel* m_empresa = nullptr;
     QLabel* m_info = nullptr;
     PanelAviso* m_aviso = nullptr;
     AyudaDeslizante* m_ayuda = nullptr;

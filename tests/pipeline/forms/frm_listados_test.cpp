@@ -43,6 +43,18 @@ TEST_F(MenuTest, TheHelpIsPlacedBeforeTheRightsAndFlavourAndHandOffComeAfterThem
     EXPECT_EQ(fondo(control(u"Frame3"_s)), QColor(Qt::yellow));
 }
 
+TEST_F(MenuTest, TheHeadTellsWhoseShopItIsAndOfSeveralStoresWhich)
+{
+    m_contexto.NombreEmpresa = u"Peluquería <Ana> & Co"_s;
+    m_contexto.NombreTienda = u"Centro"_s;
+    abre();
+    EXPECT_EQ(control<QLabel>(u"lblEmpresa"_s).text(), u"Peluquería <Ana> & Co"_s);
+    EXPECT_EQ(control<QLabel>(u"lblEmpresa"_s).textFormat(), Qt::PlainText);
+    m_contexto.MultiTienda = true;
+    abre();
+    EXPECT_EQ(control<QLabel>(u"lblEmpresa"_s).text(), u"Peluquería <Ana> & Co · Centro"_s);
+}
+
 TEST_F(MenuTest, WithoutAFlagThereIsNoPictureAndNoToolTip)
 {
     m_contexto.NombreRegional = u"España"_s;

@@ -155,7 +155,7 @@ TEST(SqliteMotor, AFileThatCannotBeReadIsAnErrorOfOpening)
 {
     const BaseDePrueba base{TablaT};
     ASSERT_TRUE(QFile::setPermissions(base.carpeta(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ExeGroup));
-    ASSERT_TRUE(QFile::setPermissions(base.fichero(), QFile::ReadOwner | QFile::WriteOwner));
+    ASSERT_TRUE(QFile::setPermissions(base.fichero(), QFile::Permissions{})); // whoever runs this, its owner too
     const ComoOtroUsuario otro;
     ASSERT_TRUE(otro.listo());
     const Fallo error = fallo([&] { abre(base.fichero()); });
