@@ -182,6 +182,7 @@ void Principal::LeerOpciones()
     if (!fila.hay())
         return;
     m_contexto.NumDecimales = fila.entero16(u"numDecimales");
+    m_contexto.ConexionTienda.entorno().ponDecimales(m_contexto.NumDecimales); // for the amounts on paper
     m_contexto.TipoPrograma = fila.texto(u"Tipo_Programa");
     m_contexto.UtilizaColoresEmpleados = fila.logico(u"UtilizaColores_empleados");
     m_contexto.NombreEmpresa = fila.texto(u"nombre");

@@ -67,6 +67,7 @@ TEST_F(LecturasTest, EveryTextOfTheOptionsIsReadAsItStands)
     for (const TextoDeOpciones& texto : textosDeOpciones)
         EXPECT_EQ(contexto.*texto.miembro, texto.valor) << texto.columna.toStdString();
     EXPECT_EQ(contexto.NumDecimales, 3);
+    EXPECT_EQ(contexto.ConexionListados.entorno().regional().decimales, 3) << "for the amounts on paper";
 }
 
 TEST_F(LecturasTest, TextsOfTheOptionsThatAreNullAreEmpty)

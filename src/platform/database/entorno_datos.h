@@ -59,6 +59,8 @@ public:
 
     [[nodiscard]] const OpcionesDatos& opciones() const { return m_opciones; }
     [[nodiscard]] const ConfiguracionRegional& regional() const { return m_opciones.regional; }
+    /// The number of decimals of amounts, once the shop's options have told it.
+    void ponDecimales(int decimales) { m_opciones.regional.decimales = decimales; }
 
     /// Sends the added rows that still wait, of all databases, for the program's error handler and its end. Never throws; false
     /// when some could not be sent.

@@ -26,6 +26,7 @@ struct ConfiguracionRegional
     int primerDiaSemana = 1;                 ///< 1 Monday .. 7 Sunday
     std::array<QString, 12> meses;           ///< "enero" .., as they stand alone
     std::array<QString, 12> mesesAbreviados; ///< "ene" ..
+    int decimales = 2;                       ///< of amounts of money, where nothing else says how many
 
     [[nodiscard]] static ConfiguracionRegional espania();
     [[nodiscard]] static ConfiguracionRegional delSistema();

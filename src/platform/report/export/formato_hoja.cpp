@@ -41,13 +41,13 @@ QByteArray formatoFecha(Fecha fecha, Formato formato, const ConfiguracionRegiona
     return conHora ? formatoDia(regional) + ' ' + hora : formatoDia(regional);
 }
 
-QByteArray formatoNumero(const FormatoValor& formato)
+QByteArray formatoNumero(const FormatoValor& formato, const ConfiguracionRegional& regional)
 {
     if (formato.formato == Formato::General)
         return formato.ceroEnBlanco ? "General;-General;" : "";
     QByteArray cifras = "#,##0";
-    if (formato.formato != Formato::Entero && formato.decimales > 0)
-        cifras += '.' + QByteArray(formato.decimales, '0');
+    if (const int decimales = decimalesDe(formato, regional); decimales > 0)
+        cifras += '.' + QByteArray(decimales, '0');
     if (formato.formato == Formato::Porcentaje)
         cifras += "\" %\"";
     return formato.ceroEnBlanco ? cifras + ";-" + cifras + ';' : cifras;
@@ -61,7 +61,7 @@ QByteArray formatoDeHoja(const Valor& valor, const FormatoValor& formato, const 
         return formatoFecha(valor.fecha(), formato.formato, regional);
     const bool deFecha =
         formato.formato == Formato::Fecha || formato.formato == Formato::FechaHora || formato.formato == Formato::Hora;
-    return esNumero(valor) && !deFecha ? formatoNumero(formato) : QByteArray{};
+    return esNumero(valor) && !deFecha ? formatoNumero(formato, regional) : QByteArray{};
 }
 
 std::optional<double> numeroDeHoja(const Valor& valor)
@@ -90,19 +90,20 @@ QString textoDeHoja(const QString& texto)
     return limpio;
 }
 
-QString nombreDeHoja(const QString& titulo)
+QString nombreDeHoja(const QString& titulo, const QString& final)
 {
+    const qsizetype caben = NombreMaximo - final.size();
     QString nombre;
     for (const QChar signo : titulo.simplified())
         nombre += u"[]:*?/\\"_s.contains(signo) || !signo.isPrint() ? QChar{u'-'} : signo;
-    if (nombre.size() > NombreMaximo && nombre[NombreMaximo - 1].isHighSurrogate())
-        nombre.truncate(NombreMaximo - 1);
-    nombre.truncate(NombreMaximo);
+    if (nombre.size() > caben && nombre[caben - 1].isHighSurrogate())
+        nombre.truncate(caben - 1);
+    nombre.truncate(caben);
     while (nombre.startsWith(u'\''))
         nombre.remove(0, 1);
     while (nombre.endsWith(u'\'') || nombre.endsWith(u' '))
         nombre.chop(1);
-    return nombre.isEmpty() ? u"Informe"_s : nombre;
+    return (nombre.isEmpty() ? u"Informe"_s : nombre) + final;
 }
 
 } // namespace kestrane::report

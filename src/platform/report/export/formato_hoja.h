@@ -19,7 +19,7 @@ namespace kestrane::report {
 /// A text as long as a cell takes it, without what its file cannot hold.
 [[nodiscard]] QString textoDeHoja(const QString& texto);
 
-/// The name of a sheet: at most 31 characters, none of those that sheets do not take.
-[[nodiscard]] QString nombreDeHoja(const QString& titulo);
+/// The name of a sheet: at most 31 characters, `final` among them, none of those that sheets do not take.
+[[nodiscard]] QString nombreDeHoja(const QString& titulo, const QString& final = {});
 
 } // namespace kestrane::report

@@ -1,6 +1,13 @@
 #include "platform/report/layout/ambito_seccion.h"
 
+#include "platform/report/layout/cuerpo_de_pagina.h"
+
 namespace kestrane::report {
+
+double AmbitoSeccion::altoDeCuerpo() const
+{
+    return report::altoDeCuerpo(layout) - reservado;
+}
 
 Expresion AmbitoSeccion::expresion(const ElementoXml& xml, QStringView cual) const
 {

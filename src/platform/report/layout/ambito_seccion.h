@@ -20,7 +20,11 @@ struct AmbitoSeccion
     MesaLectura& mesa;
     Layout& layout;
     double ancho = 0;
-    int nivel = 0; ///< 0 outside the groups
+    int nivel = 0;        ///< 0 outside the groups
+    double reservado = 0; ///< of each page's height, for the table's headings, which are not there yet
+
+    /// The room for bands on a page.
+    [[nodiscard]] double altoDeCuerpo() const;
 
     /// An attribute that holds an expression; the empty one when it is not written.
     [[nodiscard]] Expresion expresion(const ElementoXml& xml, QStringView cual) const;

@@ -1,8 +1,8 @@
 #include "platform/report/layout/expresion.h"
 
 #include "platform/report/layout/agregados_expresion.h"
+#include "platform/report/layout/cursor_simbolos.h"
 #include "platform/report/layout/formato.h"
-#include "platform/report/layout/lexico_expresion.h"
 #include "platform/report/layout/limites.h"
 #include "platform/report/layout/nodo_expresion.h"
 #include "platform/report/layout/operadores_expresion.h"
@@ -29,14 +29,12 @@ NodoPtr nodo(NodoExpresion nuevo)
 }
 
 /// By strength of operators: what stands to the right of one takes in the operators that bind tighter.
-class AnalizadorExpresion
+class AnalizadorExpresion : private CursorSimbolos
 {
 public:
     AnalizadorExpresion(const QString& texto, const LugarLayout& lugar, ContextoAnalisis& contexto)
-        : m_texto{texto}
-        , m_lugar{lugar}
+        : CursorSimbolos{texto, lugar}
         , m_contexto{contexto}
-        , m_simbolos{simbolosDe(texto, lugar)}
         , m_alcance{contexto.alcance}
     {
     }
@@ -66,37 +64,6 @@ private:
     private:
         AnalizadorExpresion& m_analizador;
     };
-
-    [[nodiscard]] const Simbolo& actual() const { return m_simbolos[m_aqui]; }
-    const Simbolo& consume() { return m_simbolos[m_aqui++]; }
-
-    [[nodiscard]] bool esSigno(QStringView signo) const { return actual().clase == ClaseSimbolo::Signo && actual().texto == signo; }
-
-    bool consumeSi(QStringView signo)
-    {
-        const bool es = esSigno(signo);
-        m_aqui += es ? 1 : 0;
-        return es;
-    }
-
-    void exige(QStringView signo)
-    {
-        if (!consumeSi(signo))
-            esperaba(u"«"_s + signo.toString() + u"»"_s);
-    }
-
-    [[noreturn]] void falla(const QString& que) const { fallaExpresion(m_lugar, m_texto, actual().posicion, que); }
-
-    [[noreturn]] void esperaba(const QString& que) const
-    {
-        const QString hay = actual().clase == ClaseSimbolo::Fin ? u"se acaba la expresión"_s : u"hay «"_s + actual().texto + u"»"_s;
-        falla(u"se esperaba "_s + que + u" y "_s + hay + u'.');
-    }
-
-    [[nodiscard]] bool esOperador() const
-    {
-        return actual().clase == ClaseSimbolo::Signo || actual().clase == ClaseSimbolo::Nombre;
-    }
 
     NodoPtr expresion(int fuerza)
     {
@@ -162,8 +129,7 @@ private:
     void exigeAlcance(const Simbolo& escrito) const
     {
         if (m_alcance == AlcanceExpresion::SoloColumnas)
-            fallaExpresion(m_lugar, m_texto, escrito.posicion,
-                           u"«"_s + escrito.texto + u"» no puede estar aquí: solo columnas y cuentas con ellas."_s);
+            fallaEn(escrito, u"«"_s + escrito.texto + u"» no puede estar aquí: solo columnas y cuentas con ellas."_s);
     }
 
     NodoPtr llamada(const Simbolo& escrito)
@@ -174,7 +140,7 @@ private:
         }
         const FuncionExpresion* funcion = funcionDe(escrito.texto);
         if (funcion == nullptr)
-            fallaExpresion(m_lugar, m_texto, escrito.posicion, u"no hay ninguna función «"_s + escrito.texto + u"»."_s);
+            fallaEn(escrito, u"no hay ninguna función «"_s + escrito.texto + u"»."_s);
         std::vector<NodoPtr> argumentos = leeArgumentos();
         compruebaArgumentos(*funcion, argumentos, escrito);
         return nodo({.clase = ClaseNodo::Llamada, .funcion = funcion, .hijos = std::move(argumentos)});
@@ -197,12 +163,10 @@ private:
         if (cuantos < funcion.minimo || cuantos > funcion.maximo) {
             const QString pide = funcion.minimo == funcion.maximo ? QString::number(funcion.minimo)
                                                                   : u"de %1 a %2"_s.arg(funcion.minimo).arg(funcion.maximo);
-            fallaExpresion(m_lugar, m_texto, escrito.posicion,
-                           u"los argumentos de «%1» han de ser %2 y hay %3."_s.arg(funcion.nombre, pide).arg(cuantos));
+            fallaEn(escrito, u"los argumentos de «%1» han de ser %2 y hay %3."_s.arg(funcion.nombre, pide).arg(cuantos));
         }
         if (funcion.nombre == u"formato" && !esFormato(*argumentos[1]))
-            fallaExpresion(m_lugar, m_texto, escrito.posicion,
-                           u"el segundo argumento de «formato» ha de ser el nombre de un formato entre comillas: 'moneda'."_s);
+            fallaEn(escrito, u"el segundo argumento de «formato» ha de ser el nombre de un formato entre comillas: 'moneda'."_s);
     }
 
     static bool esFormato(const NodoExpresion& nodo)
@@ -216,7 +180,7 @@ private:
         Agregado agregado{funcion, {}, m_contexto.nivel};
         if (funcion != FuncionAgregado::Cuenta || !esSigno(u")")) {
             m_alcance = AlcanceExpresion::SoloColumnas; // A sum of sums has no meaning of its own.
-            agregado.de = Expresion{expresion(0), m_lugar};
+            agregado.de = Expresion{expresion(0), lugar()};
             m_alcance = m_contexto.alcance;
             if (consumeSi(u";"))
                 agregado.nivel = leeGrupo();
@@ -238,11 +202,7 @@ private:
         return *nivel;
     }
 
-    const QString& m_texto;
-    const LugarLayout& m_lugar;
     ContextoAnalisis& m_contexto;
-    std::vector<Simbolo> m_simbolos;
-    size_t m_aqui = 0;
     int m_anidamiento = 0;
     AlcanceExpresion m_alcance;
 };

@@ -55,8 +55,7 @@ QString escribeNumero(const Valor& valor, const FormatoValor& formato, const Con
     const double numero = valor.doble();
     if (formato.formato == Formato::General || !(std::abs(numero) < Mayor))
         return formato.ceroEnBlanco && numero == 0 ? QString{} : aTexto(valor, regional);
-    const int decimales = formato.formato == Formato::Entero ? 0 : std::clamp(formato.decimales, 0, DecimalesMaximos);
-    const QString escrito = conDecimales(numero, decimales);
+    const QString escrito = conDecimales(numero, decimalesDe(formato, regional));
     if (formato.ceroEnBlanco && escrito.toDouble() == 0)
         return {};
     const QString marcado = conMarcas(escrito, regional);
@@ -79,6 +78,15 @@ std::optional<Formato> formatoDeNombre(QStringView nombre)
     const auto* hallado =
         std::ranges::find_if(Nombres, [&](const auto& n) { return n.nombre.compare(nombre, Qt::CaseInsensitive) == 0; });
     return hallado == std::ranges::end(Nombres) ? std::nullopt : std::optional{hallado->formato};
+}
+
+int decimalesDe(const FormatoValor& formato, const ConfiguracionRegional& regional)
+{
+    constexpr int SinDecirlo = 2;
+    if (formato.formato == Formato::Entero)
+        return 0;
+    const int propios = formato.formato == Formato::Moneda ? regional.decimales : SinDecirlo;
+    return std::clamp(formato.decimales.value_or(propios), 0, DecimalesMaximos);
 }
 
 QString escribeValor(const Valor& valor, const FormatoValor& formato, const ConfiguracionRegional& regional)

@@ -14,7 +14,7 @@ enum class Formato {
     General,    ///< the platform's conversion
     Entero,     ///< 1.234
     Numero,     ///< 1.234,50
-    Moneda,     ///< 1.234,50 with as many decimals as the layout says
+    Moneda,     ///< 1.234,50 with the shop's number of decimals
     Porcentaje, ///< 12,50 %
     Fecha,      ///< 05/03/2024
     FechaHora,  ///< 05/03/2024 9:05
@@ -27,11 +27,14 @@ enum class Formato {
 struct FormatoValor
 {
     Formato formato = Formato::General;
-    int decimales = 2;
+    std::optional<int> decimales = {}; ///< none: those of the format
     bool ceroEnBlanco = false;
 
     friend bool operator==(const FormatoValor&, const FormatoValor&) = default;
 };
+
+/// How many decimals a number has under `formato`: what it says, else none for Entero, those of `regional` for Moneda, else 2.
+[[nodiscard]] int decimalesDe(const FormatoValor& formato, const ConfiguracionRegional& regional);
 
 /// `valor` as it stands on paper, with the marks of `regional`; Null gives "". What is no number under a number's format and no
 /// date under a date's stays as the platform's conversion writes it; the zero day is no day: Fecha leaves it blank, FechaHora

@@ -89,6 +89,7 @@ struct Layout;
 struct Subinforme : ComunElemento
 {
     std::shared_ptr<const Layout> layout;
+    QString titulo; ///< where it stands apart, as on a sheet of its own
 };
 
 using Elemento = std::variant<Texto, Linea, Marco, Imagen, Codigo39, Subinforme>;
@@ -129,6 +130,7 @@ struct ColumnaDatos
 {
     QString titulo;
     Expresion valor;
+    Expresion mostrar = {}; ///< empty: always; where it does not hold the cell is blank
     FormatoValor formato;
     Horizontal horizontal = Horizontal::Izquierda;
     double ancho = 20;

@@ -84,6 +84,7 @@ public:
     {
         auto nuevo = elementoEn<Subinforme>(comun());
         nuevo.caja.setHeight(0);
+        nuevo.titulo = textoDe(m_xml, u"titulo");
         nuevo.layout = std::make_shared<const Layout>(leeSubinforme(m_xml, m_ambito, nuevo.caja.width()));
         return nuevo;
     }

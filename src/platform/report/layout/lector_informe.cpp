@@ -8,6 +8,7 @@
 #include "platform/report/layout/limites.h"
 
 #include <algorithm>
+#include <span>
 
 namespace kestrane::report {
 
@@ -21,10 +22,12 @@ struct SeccionConocida
     Seccion Layout::*seccion;
 };
 
-/// What stands on each page first: the others have the room that it leaves.
-constexpr SeccionConocida Secciones[] = {
+/// What stands on each page is read first: the others have the room that it leaves.
+constexpr SeccionConocida DeCadaPagina[] = {
     {u"cabecera-pagina", &Layout::cabeceraPagina},
     {u"pie-pagina", &Layout::piePagina},
+};
+constexpr SeccionConocida DelInforme[] = {
     {u"cabecera-informe", &Layout::cabeceraInforme},
     {u"pie-informe", &Layout::pieInforme},
 };
@@ -40,8 +43,9 @@ public:
         leeGrupos();
         leeOrden();
         const double ancho = m_layout.pagina.anchoUtil();
-        for (const SeccionConocida& conocida : Secciones)
-            m_layout.*conocida.seccion = leeSeccion(m_xml.unico(conocida.nombre), ambito(ancho));
+        leeSecciones(DeCadaPagina, ancho);
+        reservaCabeceraDeTabla();
+        leeSecciones(DelInforme, ancho);
         m_layout.detalle = leeSeccion(m_xml.unico(u"detalle"), ambito(anchoDeColumna(m_layout.pagina)));
         leeSeccionesDeGrupos(ancho);
         if (const ElementoXml* tabla = m_xml.unico(u"tabla"))
@@ -51,7 +55,21 @@ public:
     }
 
 private:
-    [[nodiscard]] AmbitoSeccion ambito(double ancho, int nivel = 0) const { return {m_mesa, m_layout, ancho, nivel}; }
+    [[nodiscard]] AmbitoSeccion ambito(double ancho, int nivel = 0) const { return {m_mesa, m_layout, ancho, nivel, m_reservado}; }
+
+    void leeSecciones(std::span<const SeccionConocida> secciones, double ancho)
+    {
+        for (const SeccionConocida& conocida : secciones)
+            m_layout.*conocida.seccion = leeSeccion(m_xml.unico(conocida.nombre), ambito(ancho));
+    }
+
+    /// A sub-report's headings stand among its bands and take no room of each page.
+    void reservaCabeceraDeTabla()
+    {
+        const ElementoXml* tabla = m_xml.unico(u"tabla");
+        if (tabla != nullptr && m_xml.nombre == u"informe")
+            m_reservado = altoDeTabla(*tabla);
+    }
 
     void leeConsulta()
     {
@@ -115,6 +133,7 @@ private:
     const ElementoXml& m_xml;
     MesaLectura& m_mesa;
     Layout& m_layout;
+    double m_reservado = 0;
 };
 
 } // namespace
@@ -136,6 +155,7 @@ Layout leeSubinforme(const ElementoXml& xml, const AmbitoSeccion& fuera, double 
     layout.dsn = fuera.layout.dsn;
     layout.pagina.tamano = {ancho, 0};
     layout.pagina.margenes = {};
+    layout.pagina.largoMaximo = fuera.altoDeCuerpo();
     LectorInforme{xml, fuera.mesa, layout}.lee();
     return layout;
 }

@@ -4,6 +4,7 @@
 #include "platform/report/layout/columna_tabla.h"
 #include "platform/report/layout/error_layout.h"
 #include "platform/report/layout/lector_elementos.h"
+#include "platform/report/layout/lector_secciones.h"
 #include "platform/report/layout/lectura_atributos.h"
 #include "platform/report/layout/limites.h"
 #include "platform/report/layout/nodo_expresion.h"
@@ -32,10 +33,11 @@ public:
         , m_informe{informe}
         , m_ambito{ambito}
         , m_columnas{columnasDe(tabla, ambito.ancho)}
-        , m_alto{medidaDe(tabla, u"alto", 5)}
+        , m_alto{altoDeTabla(tabla)}
         , m_celda{estilo(u"celda")}
         , m_celdaPar{conCeldaAjena(tabla) ? m_celda : ambito.mesa.estilos.de(tabla, u"celda-par", u"celda-par"_s, m_celda)}
     {
+        compruebaAlto(m_alto, u"las filas de la tabla son más altas"_s, tabla.lugar, ambito);
         ambito.mesa.elementos += static_cast<int>(m_columnas.size() * (2 + ambito.layout.grupos.size() + 1));
         if (ambito.mesa.elementos > limites::Elementos)
             fallaLayout(tabla.lugar, u"el informe tiene demasiados elementos: se admiten %1."_s.arg(limites::Elementos));
@@ -197,6 +199,7 @@ ColumnaDatos columnaDeDatos(const ElementoXml& xml, const AmbitoSeccion& ambito)
     const ColumnaTabla tabla{&xml, 0, 0, formatoDe(xml)};
     columna.titulo = textoDe(xml, u"titulo");
     columna.valor = ambito.expresion(xml, u"valor");
+    columna.mostrar = ambito.expresion(xml, u"mostrar");
     columna.formato = tabla.formato;
     columna.horizontal = tabla.alineacion(Estilo{});
     columna.ancho = medidaDe(xml, u"ancho", columna.ancho);
@@ -206,6 +209,11 @@ ColumnaDatos columnaDeDatos(const ElementoXml& xml, const AmbitoSeccion& ambito)
 }
 
 } // namespace
+
+double altoDeTabla(const ElementoXml& tabla)
+{
+    return medidaDe(tabla, u"alto", 5);
+}
 
 void anadeTabla(const ElementoXml& tabla, const ElementoXml& informe, const AmbitoSeccion& ambito)
 {
@@ -221,6 +229,7 @@ void anadeTabla(const ElementoXml& tabla, const ElementoXml& informe, const Ambi
 std::vector<ColumnaDatos> leeColumnasDeDatos(const ElementoXml& tabla, const AmbitoSeccion& ambito)
 {
     std::vector<ColumnaDatos> columnas;
+    columnas.reserve(tabla.hijos.size());
     for (const ElementoXml& xml : tabla.hijos)
         columnas.push_back(columnaDeDatos(xml, ambito));
     return columnas;

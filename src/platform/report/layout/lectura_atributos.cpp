@@ -59,7 +59,8 @@ FormatoValor formatoDe(const ElementoXml& elemento)
 {
     FormatoValor formato;
     formato.formato = formatoDeNombre(textoDe(elemento, u"formato")).value_or(Formato::General);
-    formato.decimales = textoDe(elemento, u"decimales", QString::number(formato.decimales)).toInt();
+    if (const QString* decimales = elemento.atributo(u"decimales"))
+        formato.decimales = decimales->toInt();
     formato.ceroEnBlanco = textoDe(elemento, u"cero") == u"blanco";
     return formato;
 }

@@ -2,25 +2,14 @@
 
 #include "platform/report/layout/clases_de_valor.h"
 
-#include <QRegularExpression>
-
 #include <algorithm>
 #include <stdexcept>
-#include <vector>
 
 namespace kestrane::report {
 
 namespace {
 
 constexpr auto Obligatorio = Presencia::Obligatorio;
-
-constexpr const ClaseValor* Clases[] = {
-    &clases::Texto,    &clases::Expresion, &clases::Nombre,      &clases::Palabra,       &clases::Letra,
-    &clases::SiNo,     &clases::Medida,    &clases::Largo,       &clases::Ancho,         &clases::Cuerpo,
-    &clases::Columnas, &clases::Decimales, &clases::Color,       &clases::Fondo,         &clases::Horizontal,
-    &clases::Vertical, &clases::Sentido,   &clases::Orientacion, &clases::Cero,          &clases::Formato,
-    &clases::Total,    &clases::Papel,     &clases::Margenes,    &clases::FicheroPartes, &clases::FicheroImagen,
-};
 
 constexpr HijoVocabulario Raices[] = {{u"informe", u"informe"}, {u"partes", u"partes"}};
 
@@ -143,14 +132,12 @@ constexpr AtributoVocabulario DeCodigo39[] = {
     {u"mostrar", &clases::Expresion},
 };
 constexpr AtributoVocabulario DeSubinforme[] = {
-    {u"x", &clases::Medida},
-    {u"y", &clases::Medida},
-    {u"ancho", &clases::Ancho},
-    {u"mostrar", &clases::Expresion},
+    {u"titulo", &clases::Texto}, {u"x", &clases::Medida},          {u"y", &clases::Medida},
+    {u"ancho", &clases::Ancho},  {u"mostrar", &clases::Expresion},
 };
 constexpr HijoVocabulario EnSubinforme[] = {
     {u"consulta", u"consulta"}, {u"orden", u"orden"},         {u"grupo", u"grupo"}, {u"cabecera-informe", u"seccion"},
-    {u"detalle", u"seccion"},   {u"pie-informe", u"seccion"}, {u"tabla", u"tabla"},
+    {u"detalle", u"seccion"},   {u"pie-informe", u"seccion"}, {u"tabla", u"tabla"}, {u"datos", u"datos"},
 };
 
 constexpr AtributoVocabulario DeTabla[] = {
@@ -198,29 +185,7 @@ const TipoElemento Tipos[] = {
     {u"datos", {}, EnTabla},
 };
 
-std::vector<ClaseValor> copiaClases()
-{
-    std::vector<ClaseValor> todas;
-    for (const ClaseValor* clase : Clases)
-        todas.push_back(*clase);
-    return todas;
-}
-
-std::vector<QRegularExpression> patrones()
-{
-    std::vector<QRegularExpression> todos;
-    for (const ClaseValor* clase : Clases)
-        todos.emplace_back(QRegularExpression::anchoredPattern(clase->patron));
-    return todos;
-}
-
 } // namespace
-
-std::span<const ClaseValor> clasesDeValor()
-{
-    static const std::vector<ClaseValor> todas = copiaClases();
-    return todas;
-}
 
 std::span<const TipoElemento> tiposDeElemento()
 {
@@ -238,15 +203,6 @@ const TipoElemento& tipoDeElemento(QStringView tipo)
     if (hallado == std::ranges::end(Tipos))
         throw std::logic_error{"no such kind of element: " + tipo.toString().toStdString()};
     return *hallado;
-}
-
-bool vale(const ClaseValor& clase, const QString& valor)
-{
-    static const std::vector<QRegularExpression> Patrones = patrones();
-    if (clase.patron.isEmpty())
-        return true;
-    const auto lugar = std::ranges::find(Clases, &clase) - std::ranges::begin(Clases);
-    return Patrones.at(static_cast<size_t>(lugar)).match(valor).hasMatch();
 }
 
 } // namespace kestrane::report

@@ -30,6 +30,18 @@ TEST(FormatoHoja, NumbersHaveTheLayoutsDecimals)
     EXPECT_EQ(formato(1.5, {.formato = Formato::Moneda, .ceroEnBlanco = true}), "#,##0.00;-#,##0.00;");
 }
 
+TEST(FormatoHoja, AmountsHaveTheShopsDecimals)
+{
+    ConfiguracionRegional regional = ConfiguracionRegional::espania();
+    const auto moneda = [&regional](int decimales) {
+        regional.decimales = decimales;
+        return formatoDeHoja(1.5, {.formato = Formato::Moneda}, regional).toStdString();
+    };
+    EXPECT_EQ(moneda(0), "#,##0");
+    EXPECT_EQ(moneda(2), "#,##0.00");
+    EXPECT_EQ(moneda(3), "#,##0.000");
+}
+
 TEST(FormatoHoja, DatesHaveTheOrderOfTheRegion)
 {
     EXPECT_EQ(formato(dia(2024, 3, 5), {.formato = Formato::Fecha}), "dd/mm/yyyy");

@@ -82,5 +82,23 @@ TEST(FormatoDeNombre, LosDeLosLayouts)
     EXPECT_FALSE(formatoDeNombre(u"euros").has_value());
 }
 
+TEST(EscribeValor, AmountsHaveTheShopsDecimalsWhereTheLayoutDoesNotSay)
+{
+    ConfiguracionRegional regional = es();
+    const auto escrito = [&regional](int decimales, const FormatoValor& formato) {
+        regional.decimales = decimales;
+        return escribeValor(1234.5678, formato, regional);
+    };
+    EXPECT_EQ(escrito(0, {.formato = Formato::Moneda}), u"1.235"_s);
+    EXPECT_EQ(escrito(2, {.formato = Formato::Moneda}), u"1.234,57"_s);
+    EXPECT_EQ(escrito(3, {.formato = Formato::Moneda}), u"1.234,568"_s);
+    EXPECT_EQ(escrito(3, {.formato = Formato::Moneda, .decimales = 1}), u"1.234,6"_s);
+    EXPECT_EQ(escrito(3, {.formato = Formato::Numero}), u"1.234,57"_s);
+    EXPECT_EQ(escrito(3, {.formato = Formato::Porcentaje}), u"1.234,57 %"_s);
+    EXPECT_EQ(escrito(3, {.formato = Formato::Entero}), u"1.235"_s);
+    EXPECT_EQ(escrito(-1, {.formato = Formato::Moneda}), u"1.235"_s) << "no fewer than none";
+    EXPECT_EQ(escrito(32767, {.formato = Formato::Moneda}), u"1.234,5678000000"_s) << "no more than ten";
+}
+
 } // namespace
 } // namespace kestrane::report

@@ -41,6 +41,48 @@ TEST(LectorSecciones, UnaBandaMasAltaQueLaPaginaSeRechaza)
     EXPECT_EQ(prueba::rechazoDe(u"<rollo ancho=\"80\"/><detalle><banda alto=\"600\"/></detalle>"_s), QString{});
 }
 
+/// Why a page with room for 60 mm of bands does not take `contenido`.
+QString rechazoEnSesenta(const QString& contenido)
+{
+    return prueba::rechazoDe(
+        u"<pagina papel=\"100x100\" margenes=\"5 10 5 10\"/><pie-pagina><banda alto=\"20\"/></pie-pagina>\n"_s + contenido);
+}
+
+TEST(LectorSecciones, LaCabeceraYLaFilaDeUnaTablaHanDeCaberJuntas)
+{
+    const QString columna = u"<columna titulo=\"A\" valor=\"a\"/></tabla>"_s;
+    EXPECT_EQ(rechazoEnSesenta(u"<tabla alto=\"30\">"_s + columna), QString{});
+    EXPECT_EQ(rechazoEnSesenta(u"<tabla alto=\"31\">"_s + columna),
+              u"K_x.rpt, línea 3: las filas de la tabla son más altas que el sitio que deja la página: caben 29 mm."_s);
+}
+
+TEST(LectorSecciones, LasBandasTienenElSitioQueDejaLaCabeceraDeLaTabla)
+{
+    const QString tabla = u"<tabla alto=\"10\"><columna titulo=\"A\" valor=\"a\"/></tabla>\n"_s;
+    EXPECT_EQ(rechazoEnSesenta(tabla + u"<detalle><banda alto=\"50\"/></detalle>"_s), QString{});
+    EXPECT_EQ(rechazoEnSesenta(tabla + u"<detalle><banda alto=\"51\"/></detalle>"_s),
+              u"K_x.rpt, línea 4: la banda es más alta que el sitio que deja la página: caben 50 mm."_s);
+}
+
+TEST(LectorSecciones, LasDeUnSubinformeHanDeCaberEnLaPagina)
+{
+    const QString sub = u"<pie-informe><banda alto=\"5\"><subinforme><consulta>select a from b</consulta>\n%1"
+                        "</subinforme></banda></pie-informe>"_s;
+    EXPECT_EQ(rechazoEnSesenta(sub.arg(u"<detalle><banda alto=\"60\"/></detalle>"_s)), QString{});
+    EXPECT_EQ(rechazoEnSesenta(sub.arg(u"<detalle><banda alto=\"61\"/></detalle>"_s)),
+              u"K_x.rpt, línea 4: la banda es más alta que el sitio que deja la página: caben 60 mm."_s);
+    EXPECT_EQ(rechazoEnSesenta(sub.arg(u"<tabla alto=\"61\"><columna titulo=\"A\" valor=\"a\"/></tabla>"_s)),
+              u"K_x.rpt, línea 4: las filas de la tabla son más altas que el sitio que deja la página: caben 60 mm."_s);
+}
+
+TEST(LectorSecciones, UnaBandaMasAltaQueElRolloSeRechaza)
+{
+    const QString rollo = u"<rollo ancho=\"80\" margenes=\"4 4 4 4\" largo-maximo=\"100\"/>"_s;
+    EXPECT_EQ(prueba::rechazoDe(rollo + u"<detalle><banda alto=\"92\"/></detalle>"_s), QString{});
+    EXPECT_EQ(prueba::rechazoDe(rollo + u"<detalle><banda alto=\"93\"/></detalle>"_s),
+              u"K_x.rpt, línea 2: la banda es más alta que el sitio que deja la página: caben 92 mm."_s);
+}
+
 TEST(LectorSecciones, NoMasDeVeinteGrupos)
 {
     QString grupos;
