@@ -170,7 +170,7 @@ void Compositor::pon(const Obra& obra, const Subinforme& subinforme, const Eleme
     const TramoBanda tramo = obra.tramo.dentro(subinforme.caja.left(), subinforme.caja.top());
     m_medidor.recorreSubinforme(informe, tramo.hecho, tramo.hasta, [&](const BandaMedida& banda, qsizetype fila, double arriba) {
         const Contexto contexto{fila, obra.contexto.pagina, obra.contexto.paginas};
-        if (banda.seParteEnSubinforme())
+        if (banda.seParteEnSubinforme)
             compone(informe, banda, contexto, tramo.dentro(0, arriba), obra.pagina);
         else if (tramo.terminaAqui(arriba + banda.alto))
             compone(informe, banda, contexto, {{tramo.lugar.x(), tramo.enPagina(arriba)}}, obra.pagina);

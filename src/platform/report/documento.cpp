@@ -60,6 +60,11 @@ const ConfiguracionRegional& Documento::regional() const
     return m_interior->regional();
 }
 
+std::vector<DatosSubinforme> Documento::subinformes() const
+{
+    return m_interior->maquetado().subinformes();
+}
+
 bool Documento::avanza(QDeadlineTimer plazo)
 {
     Maquetado& maquetado = m_interior->maquetado();

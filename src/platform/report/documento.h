@@ -19,6 +19,14 @@ struct EntradaIndice
     double y = 0;   ///< millimetres from the page's top
 };
 
+/// A sub-report as data.
+struct DatosSubinforme
+{
+    QString titulo; ///< as the layout says, often none
+    const Layout& layout;
+    const FilasInforme& filas;
+};
+
 /// A report with its rows: it outlives the tables from which they were read. Pages are laid out in order, as far as they are asked
 /// for; a page is composed anew each time. One thread.
 class Documento
@@ -36,6 +44,9 @@ public:
     [[nodiscard]] const Layout& layout() const;
     [[nodiscard]] const FilasInforme& filas() const;
     [[nodiscard]] const ConfiguracionRegional& regional() const;
+    /// The sub-reports that show and have rows, from the report's top to its end, those within others behind them. They live until
+    /// the rows are laid out anew.
+    [[nodiscard]] std::vector<DatosSubinforme> subinformes() const;
 
     /// Lays out on until `plazo`, at least one page; true when the last page is known.
     bool avanza(QDeadlineTimer plazo);

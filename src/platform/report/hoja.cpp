@@ -9,33 +9,6 @@ namespace {
 /// What a band that cannot be cut takes at least of a page on which nothing else stands.
 constexpr double AvanceMinimo = 5;
 
-/// A line that shows that others follow which have no room.
-void ponPuntos(Renglon& renglon)
-{
-    QString& texto = renglon.texto;
-    if (texto.size() > 1) {
-        const bool dosMitades = texto.back().isLowSurrogate();
-        texto.chop(dosMitades ? 2 : 1);
-    }
-    texto += u'…';
-}
-
-/// Leaves out of a band the lines that end below `alto`; the last one left ends with "…".
-void recorta(BandaMedida& banda, double alto)
-{
-    for (TextoMedido& texto : banda.textos) {
-        size_t caben = 0;
-        while (caben < texto.renglones.size() && texto.arriba + static_cast<double>(caben + 1) * texto.altoRenglon <= alto)
-            ++caben;
-        if (caben == texto.renglones.size())
-            continue;
-        texto.renglones.resize(caben);
-        if (caben > 0)
-            ponPuntos(texto.renglones.back());
-    }
-    banda.alto = std::min(banda.alto, alto);
-}
-
 } // namespace
 
 Hoja::Hoja(const InformeEnlazado& informe, const MedidorBandas& medidor, const InicioPagina& inicio, const Contexto& numeros,
@@ -101,7 +74,20 @@ bool Hoja::sigue()
     const bool esCabecera = parte == Parte::CabeceraGrupo && m_lugar.paso.banda == 0;
     if (esCabecera && !m_vacia && !cabe(m_reserva.para(m_lugar.paso, altoDeCuerpo())))
         return false;
+    if (parte == Parte::Detalle && !empiezaFila())
+        return false;
     return colocaBanda();
+}
+
+/// The bands of a row stay together when a page has room for them. Below headers that take up its top they go on as they come: the
+/// next page would have no more room.
+bool Hoja::empiezaFila()
+{
+    const bool esLaPrimera = m_lugar.paso.banda == 0 && m_lugar.deBandaEntera();
+    if (!esLaPrimera || m_soloCabeceras || m_informe.detalle().size() < 2)
+        return true;
+    const double alto = m_reserva.paraFila(m_lugar.paso.fila, altoDeCuerpo());
+    return cabe(alto) || alto > altoDeCuerpo() + Holgura;
 }
 
 /// Headings never stand alone at the end of a page.
@@ -177,6 +163,7 @@ bool Hoja::coloca(const BandaMedida& banda)
             return parte(banda);
     }
     pon(banda, m_lugar.paso.fila, {{m_formato.margenes.left(), m_y}, m_lugar.desde, m_lugar.hecho});
+    m_soloCabeceras = m_soloCabeceras && m_lugar.paso.parte == Parte::CabeceraGrupo;
     m_y += falta;
     aLaSiguiente();
     return true;
@@ -195,6 +182,7 @@ bool Hoja::parte(const BandaMedida& banda)
         corte = m_medidor.corta(banda, m_lugar.hecho, hasta);
     }
     pon(banda, m_lugar.paso.fila, {{m_formato.margenes.left(), m_y}, m_lugar.desde, m_lugar.hecho, corte.hasta});
+    m_soloCabeceras = false;
     m_y += corte.hasta - m_lugar.desde;
     m_lugar.desde = corte.siguiente;
     m_lugar.hecho = corte.hasta;
@@ -202,48 +190,6 @@ bool Hoja::parte(const BandaMedida& banda)
         return false;
     aLaSiguiente();
     return true;
-}
-
-/// The details of a row as one box beside others. A box is never cut between pages: what no page has room for is left out.
-bool Hoja::colocaCaja()
-{
-    Paso& paso = m_lugar.paso;
-    const SeccionEnlazada& detalle = m_informe.detalle();
-    const double alto = m_medidor.alto(m_informe, detalle, contexto(paso.fila));
-    if (!m_vacia && !cabe(alto))
-        return false;
-    const double ancho = (m_formato.anchoUtil() - (m_formato.columnas - 1) * m_formato.separacion) / m_formato.columnas;
-    const double x = m_formato.margenes.left() + m_columna * (ancho + m_formato.separacion);
-    double y = m_y;
-    bool seVe = false;
-    for (const BandaEnlazada& banda : detalle) {
-        auto medida = m_medidor.mide(m_informe, banda, contexto(paso.fila));
-        if (!medida)
-            continue;
-        seVe = true;
-        const double sitio = m_limite - y;
-        const bool estaSola = y == m_y && !medida->esDivisible();
-        if (estaSola || medida->alto <= sitio + Holgura) {
-            pon(*medida, paso.fila, {{x, y}});
-        } else if (medida->esDivisible() && sitio > 0) {
-            recorta(*medida, sitio);
-            pon(*medida, paso.fila, {{x, y}, 0, 0, sitio});
-        }
-        y += medida->alto;
-    }
-    m_altoCajas = std::max(m_altoCajas, y - m_y);
-    if (seVe && ++m_columna == m_formato.columnas)
-        cierraCajas();
-    paso.banda = static_cast<int>(detalle.size()) - 1;
-    m_recorrido.avanza(paso);
-    return true;
-}
-
-void Hoja::cierraCajas()
-{
-    m_y += m_altoCajas;
-    m_altoCajas = 0;
-    m_columna = 0;
 }
 
 void Hoja::ponEncabezados()

@@ -48,6 +48,7 @@ private:
     [[nodiscard]] bool encabeza();
     [[nodiscard]] bool abreGrupos();
     void apuntaGrupos(int primero);
+    [[nodiscard]] bool empiezaFila();
     [[nodiscard]] bool colocaBanda();
     [[nodiscard]] bool colocaAlPie(const BandaMedida& banda);
     [[nodiscard]] bool coloca(const BandaMedida& banda);
@@ -81,7 +82,8 @@ private:
     double m_inicioCuerpo = 0; ///< below the headings
     double m_altoPie = 0;
     qsizetype m_ultimaFila = 0;
-    bool m_vacia = true; ///< no band but headings yet
+    bool m_vacia = true;         ///< no band but headings yet
+    bool m_soloCabeceras = true; ///< nor any but headers of groups
     bool m_faltanEncabezados = false;
     int m_columna = 0; ///< of the next box across
     double m_altoCajas = 0;

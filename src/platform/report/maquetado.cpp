@@ -1,5 +1,6 @@
 #include "platform/report/maquetado.h"
 
+#include "platform/report/layout/cuerpo_de_pagina.h"
 #include "platform/runtime/error_ejecucion.h"
 
 #include <algorithm>
@@ -32,8 +33,9 @@ CopiaFilas CopiasDeInforme::de(const Layout& layout, database::EntornoDatos* ent
 
 Maquetado::Maquetado(Layout layout, const FilasDeLayout& filas, const ConfiguracionRegional& regional)
     : m_layout{std::move(layout)}
+    , m_regional{regional}
     , m_informe{m_layout, filas, m_estilos}
-    , m_medidor{m_estilos, regional}
+    , m_medidor{m_estilos, regional, altoDeCuerpo(m_layout)}
     , m_compositor{m_estilos, m_medidor, regional, m_layout.carpeta}
     , m_siguiente{Recorrido{m_informe}.primero()}
 {

@@ -2,6 +2,7 @@
 
 #include "platform/report/copia_filas.h"
 #include "platform/report/hoja.h"
+#include "platform/report/subinformes_visibles.h"
 
 namespace kestrane::report {
 
@@ -31,6 +32,7 @@ public:
 
     [[nodiscard]] const Layout& layout() const { return m_layout; }
     [[nodiscard]] const FilasInforme& filas() const { return m_informe.filas(); }
+    [[nodiscard]] std::vector<DatosSubinforme> subinformes() const { return subinformesVisibles(m_informe, m_regional); }
     [[nodiscard]] const std::vector<EntradaIndice>& indice() const { return m_indice; }
     [[nodiscard]] int paginas() const { return static_cast<int>(m_inicios.size()); }
     [[nodiscard]] bool completo() const { return m_siguiente.paso.parte == Parte::Fin && paginas() > 0; }
@@ -42,6 +44,7 @@ public:
 
 private:
     Layout m_layout;
+    const ConfiguracionRegional& m_regional;
     TablaEstilos m_estilos;
     InformeEnlazado m_informe;
     MedidorBandas m_medidor;

@@ -51,7 +51,7 @@ std::optional<BandaMedida> MedidorBandas::mide(const InformeEnlazado& informe, c
     if (!banda.mostrar.vacia() && !banda.mostrar.usaPaginas() &&
         !banda.mostrar.cierto(AmbitoFila{informe.filas(), sinTotal}, m_regional))
         return std::nullopt;
-    BandaMedida medida{&banda, banda.banda->alto, {}, {}};
+    BandaMedida medida{&banda, banda.banda->alto, {}, {}, false};
     if (banda.deAltoFijo)
         return medida;
     medida.textos.resize(banda.elementos.size());
@@ -66,6 +66,7 @@ std::optional<BandaMedida> MedidorBandas::mide(const InformeEnlazado& informe, c
         else
             mideTexto(informe, elemento, sinTotal, medida, medida.textos[i]);
     }
+    medida.seParteEnSubinforme = medida.alto > m_altoDeUnaPieza + Holgura;
     return medida;
 }
 
@@ -152,8 +153,10 @@ CorteBanda MedidorBandas::corta(const BandaMedida& banda, double hecho, double h
 void MedidorBandas::recorreUnidades(const BandaMedida& banda, double hecho, double hasta, double origen, const Unidad& visita) const
 {
     for (const TextoMedido& texto : banda.textos) {
-        double arriba = origen + texto.arriba;
-        for (size_t i = 0; i < texto.renglones.size() && arriba < hasta; ++i, arriba += texto.altoRenglon) {
+        for (size_t i = 0; i < texto.renglones.size(); ++i) {
+            const double arriba = origen + texto.arriba + static_cast<double>(i) * texto.altoRenglon;
+            if (arriba >= hasta)
+                break;
             if (arriba + texto.altoRenglon > hecho + Holgura)
                 visita(arriba, arriba + texto.altoRenglon);
         }
@@ -164,7 +167,7 @@ void MedidorBandas::recorreUnidades(const BandaMedida& banda, double hecho, doub
             continue;
         const double suyo = origen + std::get<Subinforme>(*elemento.elemento).caja.top();
         recorreSubinforme(*elemento.subinforme, hecho - suyo, hasta - suyo, [&](const BandaMedida& una, qsizetype, double arriba) {
-            if (una.seParteEnSubinforme())
+            if (una.seParteEnSubinforme)
                 recorreUnidades(una, hecho, hasta, suyo + arriba, visita);
             else
                 visita(suyo + arriba, suyo + arriba + una.alto);

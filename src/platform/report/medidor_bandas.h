@@ -27,17 +27,14 @@ struct BandaMedida
 {
     const BandaEnlazada* banda = nullptr;
     double alto = 0;
-    std::vector<TextoMedido> textos; ///< of each element, empty where it is no text that grows
-    std::vector<bool> visibles;      ///< of each sub-report
+    std::vector<TextoMedido> textos;  ///< of each element, empty where it is no text that grows
+    std::vector<bool> visibles;       ///< of each sub-report
+    bool seParteEnSubinforme = false; ///< within a sub-report bands stay whole, but for what is higher than a piece may be
 
     /// True when it may go on on the next page: it holds what can be cut between lines or bands.
     [[nodiscard]] bool esDivisible() const { return !banda->deAltoFijo; }
     /// A sub-report alone flows on wherever the page ends; anything else first tries a page of its own.
     [[nodiscard]] bool fluye() const { return banda->subinformes == 1; }
-    /// Within a sub-report bands stay whole, but for texts that no page may hold.
-    [[nodiscard]] bool seParteEnSubinforme() const { return esDivisible() && alto > AltoDeUnaPieza; }
-
-    static constexpr double AltoDeUnaPieza = 60;
 };
 
 /// Where a band that goes on on the next page is cut. Its lines need not end at the same height.
@@ -65,7 +62,13 @@ struct SubinformeMedido
 class MedidorBandas
 {
 public:
-    MedidorBandas(const TablaEstilos& estilos, const ConfiguracionRegional& regional) : m_estilos{estilos}, m_regional{regional} {}
+    /// `cuerpo` is the room for bands of a page, in millimetres.
+    MedidorBandas(const TablaEstilos& estilos, const ConfiguracionRegional& regional, double cuerpo = AltoDeUnaPieza)
+        : m_estilos{estilos}
+        , m_regional{regional}
+        , m_altoDeUnaPieza{std::min(AltoDeUnaPieza, cuerpo)}
+    {
+    }
 
     /// Nothing when the band does not show for this row. The number of pages is not known while pages are cut, and heights never
     /// depend on it: what shows by it takes its room in any case.
@@ -91,6 +94,8 @@ public:
 private:
     /// Sums of heights are not exact.
     static constexpr double Holgura = 1e-6;
+    /// What grows higher within a sub-report is cut between its lines rather than leave so much of a page blank.
+    static constexpr double AltoDeUnaPieza = 60;
     using Unidad = std::function<void(double arriba, double abajo)>;
 
     void recorreUnidades(const BandaMedida& banda, double hecho, double hasta, double origen, const Unidad& visita) const;
@@ -102,6 +107,7 @@ private:
     void mideSubinforme(const ElementoEnlazado& elemento, BandaMedida& medida) const;
     const TablaEstilos& m_estilos;
     const ConfiguracionRegional& m_regional;
+    double m_altoDeUnaPieza;
     mutable std::unordered_map<const InformeEnlazado*, SubinformeMedido> m_subinformes;
 };
 

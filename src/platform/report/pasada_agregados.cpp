@@ -113,6 +113,7 @@ void PasadaAgregados::anotaCorrientes()
 std::vector<std::optional<FilasPorSitio>> PasadaAgregados::tomaSumas()
 {
     std::vector<std::optional<FilasPorSitio>> sumas;
+    sumas.reserve(m_sumas.size());
     for (const Almacen& almacen : m_sumas)
         sumas.push_back(almacen ? std::optional{FilasPorSitio{almacen}} : std::nullopt);
     return sumas;

@@ -12,7 +12,7 @@ double ReservaDeSitio::para(const Paso& paso, double altoDeCuerpo) const
     case Parte::CabeceraGrupo:
         return paraGrupos(paso.nivel, paso.fila, altoDeCuerpo);
     case Parte::Detalle:
-        return primeraFila(paso.fila, altoDeCuerpo);
+        return paraFila(paso.fila, altoDeCuerpo);
     default:
         return minimo(m_recorrido.banda(paso), paso.fila, altoDeCuerpo);
     }
@@ -25,7 +25,7 @@ double ReservaDeSitio::paraGrupos(int nivel, qsizetype fila, double altoDeCuerpo
     if (!grupo.grupo->juntoALaPrimera)
         return alto;
     const bool esElUltimo = nivel == m_informe.niveles();
-    return alto + (esElUltimo ? primeraFila(fila, altoDeCuerpo) : paraGrupos(nivel + 1, fila, altoDeCuerpo));
+    return alto + (esElUltimo ? paraFila(fila, altoDeCuerpo) : paraGrupos(nivel + 1, fila, altoDeCuerpo));
 }
 
 double ReservaDeSitio::bloqueAlPie(const Paso& paso) const
@@ -39,11 +39,15 @@ double ReservaDeSitio::bloqueAlPie(const Paso& paso) const
     return alto;
 }
 
-double ReservaDeSitio::primeraFila(qsizetype fila, double altoDeCuerpo) const
+double ReservaDeSitio::paraFila(qsizetype fila, double altoDeCuerpo) const
 {
     double alto = 0;
-    for (const BandaEnlazada& banda : m_informe.detalle())
-        alto += minimo(banda, fila, altoDeCuerpo);
+    for (const BandaEnlazada& banda : m_informe.detalle()) {
+        const double suyo = minimo(banda, fila, altoDeCuerpo);
+        if (banda.banda->saltoAntes && alto > 0 && suyo > 0)
+            break;
+        alto += suyo;
+    }
     return alto;
 }
 

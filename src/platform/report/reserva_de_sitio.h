@@ -22,11 +22,13 @@ public:
     [[nodiscard]] double para(const Paso& paso, double altoDeCuerpo) const;
     /// For the headers of the groups that begin at the row, from that level on.
     [[nodiscard]] double paraGrupos(int nivel, qsizetype fila, double altoDeCuerpo) const;
+    /// For the bands of a row, up to one that begins a page. What goes on on the next page in any case counts with its least
+    /// height.
+    [[nodiscard]] double paraFila(qsizetype fila, double altoDeCuerpo) const;
     /// For the band at that step and its next neighbours that stand at the foot of the page.
     [[nodiscard]] double bloqueAlPie(const Paso& paso) const;
 
 private:
-    [[nodiscard]] double primeraFila(qsizetype fila, double altoDeCuerpo) const;
     [[nodiscard]] double minimo(const BandaEnlazada& banda, qsizetype fila, double altoDeCuerpo) const;
     [[nodiscard]] Contexto contexto(qsizetype fila) const { return {fila, m_numeros.pagina, m_numeros.paginas}; }
 

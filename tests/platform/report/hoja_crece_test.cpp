@@ -270,16 +270,20 @@ TEST(HojaCrece, ATextOfASubreportKnowsItsPage)
     EXPECT_THAT(textos, ElementsAre(ElementsAre(u"1 en 1@10"_s, u"2 en 1@20"_s), ElementsAre(u"3 en 2@10"_s)));
 }
 
-TEST(HojaCrece, ABoxHigherThanItsPageEndsWithDotsAboveTheFooter)
+TEST(HojaCrece, OnSmallPaperWhatGrowsInASubreportIsCutBetweenLines)
 {
-    LayoutDePrueba prueba = conTextos(30);
-    prueba.layout.pagina.columnas = 2;
-    prueba.layout.piePagina.push_back(prueba.banda(10, u"'pie'"_s));
-    const QStringList textos = PaginasDePrueba{prueba.layout, parrafos({20})}.textos().front();
-    const auto caben = static_cast<qsizetype>(20 / Renglon);
-    ASSERT_EQ(textos.size(), caben + 1);
-    EXPECT_TRUE(textos[caben - 1].section(u'@', 0, 0).endsWith(u'…')) << textos[caben - 1].toStdString();
-    EXPECT_EQ(textos.last(), u"pie@30"_s);
+    LayoutDePrueba dentro = conTextos(0);
+    dentro.layout.sentencia = u"select dentro"_s;
+    Subinforme subinforme;
+    subinforme.caja = {0, 0, 190, 0};
+    subinforme.layout = std::make_shared<const Layout>(dentro.layout);
+    LayoutDePrueba prueba;
+    prueba.altoUtil(30); // seven lines; twelve are 49 mm, which larger paper takes in one piece
+    Banda banda;
+    banda.elementos.emplace_back(subinforme);
+    prueba.layout.detalle.push_back(banda);
+    EXPECT_THAT(cuentas(PaginasDePrueba{prueba.layout, copiaNumerada(1), {{u"select dentro"_s, parrafos({12})}}}),
+                ElementsAre(7, 5));
 }
 
 } // namespace

@@ -173,46 +173,6 @@ TEST(Hoja, ABandAtTheFootStandsAsLowAsThePageAllows)
                             ElementsAre(u"firma@45"_s, u"sello@55"_s, u"pie@60"_s)));
 }
 
-TEST(Hoja, LabelsFillAcrossThenDownToTheMillimetre)
-{
-    // A sheet of 3 by 8 labels of 70 by 37.125 mm without margins.
-    LayoutDePrueba prueba;
-    prueba.layout.pagina.margenes = {};
-    prueba.layout.pagina.columnas = 3;
-    prueba.layout.detalle.push_back(prueba.banda(37.125, u"n"_s));
-    PaginasDePrueba hojas{prueba.layout, copiaNumerada(25)};
-    const auto pliegos = hojas.paginas();
-    ASSERT_EQ(pliegos.size(), 2U);
-    const QStringList primero = prueba::textosConLugar(pliegos[0]);
-    ASSERT_EQ(primero.size(), 24);
-    EXPECT_EQ(primero[0], u"1@0,0"_s);
-    EXPECT_EQ(primero[1], u"2@70,0"_s);
-    EXPECT_EQ(primero[2], u"3@140,0"_s);
-    EXPECT_EQ(primero[3], u"4@0,37.13"_s);
-    EXPECT_EQ(primero[23], u"24@140,259.88"_s);
-    EXPECT_THAT(prueba::textosConLugar(pliegos[1]), ElementsAre(u"25@0,0"_s));
-}
-
-TEST(Hoja, ALabelThatDoesNotShowTakesNoPlace)
-{
-    LayoutDePrueba prueba = filas(100);
-    prueba.layout.pagina.columnas = 2;
-    prueba.layout.detalle.front().mostrar = prueba.expresion(u"n <> 2"_s);
-    PaginasDePrueba hojas{prueba.layout, copiaNumerada(4)};
-    EXPECT_THAT(prueba::textosConLugar(hojas.paginas()[0]), ElementsAre(u"fila 1@10,10"_s, u"fila 3@105,10"_s, u"fila 4@10,20"_s));
-}
-
-TEST(Hoja, ColumnsHaveRoomBetweenThemAndGroupsBeginBelow)
-{
-    LayoutDePrueba prueba = filas(100);
-    prueba.layout.pagina.columnas = 2;
-    prueba.layout.pagina.separacion = 4; // two columns of 93
-    prueba.grupo(u"g"_s);
-    PaginasDePrueba hojas{prueba.layout, grupos({3, 1})};
-    EXPECT_THAT(prueba::textosConLugar(hojas.paginas().front()), ElementsAre(u"g 1@10,10"_s, u"fila 1@10,20"_s, u"fila 2@107,20"_s,
-                                                                             u"fila 3@10,30"_s, u"g 2@10,40"_s, u"fila 4@10,50"_s));
-}
-
 TEST(Hoja, ARollIsAsLongAsItsContent)
 {
     LayoutDePrueba prueba = filas(0);
