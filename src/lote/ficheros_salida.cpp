@@ -1,7 +1,7 @@
 #include "lote/ficheros_salida.h"
 
 #include "lote/peticion_imposible.h"
-#include "platform/report/export/fichero_provisional.h"
+#include "platform/report/export/entrega_conjunta.h"
 #include "platform/report/export/png.h"
 #include "platform/runtime/error_de_salida.h"
 #include "platform/runtime/fichero_destino.h"
@@ -109,8 +109,10 @@ void escribeFicherosNuevos(const QString& nombre, const EscritorInformes& escrit
             escribeTodo(fichero, escritor.final());
         });
     }
+    report::EntregaConjunta juntas{carpeta};
     for (size_t entrega = 0; entrega < entregas.size(); ++entrega)
-        carpeta.entrega(provisional(entrega), entregas[entrega].destino);
+        juntas.entrega(provisional(entrega), entregas[entrega].destino);
+    juntas.confirma();
 }
 
 /// The files of all reports, which are to stand in one document.

@@ -6,15 +6,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// Columns of what is sold.
+const Columna Codigo{u"texto1"_s, u"Código"_s};
+const Columna Posicion{u"texto4"_s, u"Posición"_s, Clase::TextoALaDerecha};
+const Columna EnCaja{u"texto5"_s, u"En caja"_s, Clase::Centrado};
+const Columna Minutos{u"numerico6"_s, u"Minutos"_s, Clase::Entero};
+const Columna Iva{u"numerico3"_s, u"IVA %"_s, Clase::Importe};
+const Columna Precio{u"numerico2"_s, u"Precio"_s, Clase::Importe};
+
 std::vector<Columna> dePacks()
 {
-    return {{u"texto1"_s, u"Código"_s},
-            {u"texto2"_s, u"Pack"_s},
-            {u"texto21"_s, u"Sección"_s},
-            {u"texto4"_s, u"Posición"_s, Clase::TextoALaDerecha},
-            {u"texto5"_s, u"En caja"_s, Clase::Centrado},
-            {u"numerico3"_s, u"IVA %"_s, Clase::Importe},
-            {u"numerico2"_s, u"Precio"_s, Clase::Importe}};
+    return {Codigo, {u"texto2"_s, u"Pack"_s}, {u"texto21"_s, u"Sección"_s}, Posicion, EnCaja, Iva, Precio};
 }
 
 std::vector<Columna> con(std::vector<Columna> columnas, const std::vector<Columna>& mas)
@@ -28,7 +30,7 @@ Listado empleados()
     return {u"K_Empleados.rpt"_s,
             u"Empleados"_s,
             Forma::Fichas,
-            {{u"texto1"_s, u"Código"_s},
+            {Codigo,
              {u"texto2"_s, u"Nombre"_s},
              {u"texto3"_s, u"Apellidos"_s},
              {u"texto14"_s, u"Categoría"_s},
@@ -56,28 +58,16 @@ Listado servicios()
     return {u"K_Servicios.rpt"_s,
             u"Servicios"_s,
             Forma::Tabla,
-            {{u"texto1"_s, u"Código"_s},
-             {u"texto2"_s, u"Servicio"_s},
-             {u"texto21"_s, u"Sección"_s},
-             {u"texto4"_s, u"Posición"_s, Clase::TextoALaDerecha},
-             {u"texto5"_s, u"En caja"_s, Clase::Centrado},
-             {u"numerico6"_s, u"Minutos"_s, Clase::Entero},
-             {u"numerico3"_s, u"IVA %"_s, Clase::Importe},
-             {u"numerico2"_s, u"Precio"_s, Clase::Importe}}};
+            {Codigo, {u"texto2"_s, u"Servicio"_s}, {u"texto21"_s, u"Sección"_s}, Posicion, EnCaja, Minutos, Iva, Precio}};
 }
 
 Listado arreglos()
 {
-    return {u"TC_Arreglos.rpt"_s,
-            u"Arreglos"_s,
-            Forma::Tabla,
-            {{u"texto1"_s, u"Código"_s},
-             {u"texto2"_s, u"Arreglo"_s},
-             {u"texto5"_s, u"En caja"_s, Clase::Centrado},
-             {u"numerico6"_s, u"Minutos"_s, Clase::Entero},
-             {u"numerico3"_s, u"IVA %"_s, Clase::Importe},
-             {u"numerico2"_s, u"Precio"_s, Clase::Importe},
-             {u"numerico7"_s, u"Pago al taller"_s, Clase::Importe}}};
+    return {
+        u"TC_Arreglos.rpt"_s,
+        u"Arreglos"_s,
+        Forma::Tabla,
+        {Codigo, {u"texto2"_s, u"Arreglo"_s}, EnCaja, Minutos, Iva, Precio, {u"numerico7"_s, u"Pago al taller"_s, Clase::Importe}}};
 }
 
 /// Suppliers and workshops: what they differ in is the name of their last columns.
@@ -86,7 +76,7 @@ Listado direcciones(const QString& fichero, const QString& titulo, const QString
     return {fichero,
             titulo,
             Forma::Tabla,
-            {{u"texto1"_s, u"Código"_s},
+            {Codigo,
              {u"texto2"_s, u"Nombre"_s},
              {u"texto8"_s, nif},
              {u"texto3"_s, u"Dirección"_s},

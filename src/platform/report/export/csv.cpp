@@ -54,7 +54,8 @@ void anadeValor(QByteArray& linea, const TablaInforme& tabla, const Valor& valor
 
 void anadeFila(QByteArray& linea, const TablaInforme& tabla, qsizetype fila)
 {
-    const std::vector<Valor> valores = tabla.valores(fila);
+    std::vector<Valor> valores = tabla.valores(fila);
+    tabla.oculta(fila, valores);
     for (size_t columna = 0; columna < valores.size(); ++columna) {
         if (columna > 0)
             linea.append(';');

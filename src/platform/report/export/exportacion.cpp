@@ -16,6 +16,8 @@
 
 namespace kestrane::report {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Escritura = std::function<bool(QIODevice&)>;
@@ -42,12 +44,29 @@ bool exportaPaginas(Documento& documento, FormatoExportacion formato, const QStr
     return escribeFichero(fichero, [&](QIODevice& destino) { return escribePdf(*paginas, destino, avance); });
 }
 
-bool exportaTabla(const TablaInforme& tabla, FormatoExportacion formato, const QString& fichero, const AvanceExportacion& avance)
+/// The name of a sub-report whose layout gives it none.
+QString tituloDe(const DatosSubinforme& subinforme)
 {
+    return subinforme.titulo.isEmpty() ? u"Resumen"_s : subinforme.titulo;
+}
+
+std::vector<TablaInforme> tablasDeSubinformes(const Documento& documento)
+{
+    std::vector<TablaInforme> tablas;
+    for (const DatosSubinforme& uno : documento.subinformes())
+        tablas.emplace_back(FuenteTabla{uno.layout, uno.filas, documento.regional(), tituloDe(uno)});
+    return tablas;
+}
+
+bool exportaTablas(const Documento& documento, FormatoExportacion formato, const QString& fichero, const AvanceExportacion& avance)
+{
+    const TablaInforme tabla{{documento.layout(), documento.filas(), documento.regional()}};
+    if (formato == FormatoExportacion::Csv)
+        return escribeFichero(fichero, [&](QIODevice& destino) { return escribeCsv(tabla, destino, avance); });
+    const std::vector<TablaInforme> subinformes = tablasDeSubinformes(documento);
     if (formato == FormatoExportacion::Xlsx)
-        return escribeXlsx(tabla, fichero, avance);
-    const auto escribe = formato == FormatoExportacion::Csv ? escribeCsv : escribeHtml;
-    return escribeFichero(fichero, [&](QIODevice& destino) { return escribe(tabla, destino, avance); });
+        return escribeXlsx(tabla, fichero, avance, subinformes);
+    return escribeFichero(fichero, [&](QIODevice& destino) { return escribeHtml(tabla, destino, avance, subinformes); });
 }
 
 } // namespace
@@ -56,8 +75,7 @@ bool exporta(Documento& documento, FormatoExportacion formato, const QString& fi
 {
     if (formato == FormatoExportacion::Pdf || formato == FormatoExportacion::Png)
         return exportaPaginas(documento, formato, fichero, avance);
-    const TablaInforme tabla{{documento.layout(), documento.filas(), documento.regional()}};
-    return exportaTabla(tabla, formato, fichero, avance);
+    return exportaTablas(documento, formato, fichero, avance);
 }
 
 } // namespace kestrane::report

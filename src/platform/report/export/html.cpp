@@ -20,6 +20,7 @@ constexpr auto Principio = R"(<!DOCTYPE html>
 <style>
 body { font: 10pt/1.35 "DejaVu Sans", Verdana, sans-serif; color: #1c2733; margin: 1.5rem; }
 h1 { font-size: 1.4rem; margin: 0 0 .8rem; }
+h2 { font-size: 1.1rem; margin: 1.4rem 0 .5rem; break-after: avoid; }
 table { border-collapse: collapse; width: 100%; }
 th, td { padding: .25rem .5rem; text-align: left; vertical-align: top; white-space: pre-line; }
 thead th { background: #24425c; color: #fff; position: sticky; top: 0; }
@@ -42,10 +43,9 @@ tr.total th, tr.total td { font-weight: bold; background: #edf2f6; border-top: 1
 </head>
 <body>
 <h1>%1</h1>
-<table aria-label="%1">
-<thead><tr>)";
+)";
 
-constexpr auto Final = "</table>\n</body>\n</html>\n";
+constexpr auto Final = "</body>\n</html>\n";
 
 QByteArray sinMarcas(const QString& texto)
 {
@@ -73,53 +73,70 @@ const char* claseDe(Horizontal horizontal)
     return "";
 }
 
-class PaginaHtml final : public DestinoTabla
+/// Bytes on their way out, sent when there are many.
+class SalidaHtml
 {
 public:
-    PaginaHtml(const TablaInforme& tabla, QIODevice& destino) : m_tabla{tabla}, m_destino{destino} {}
+    explicit SalidaHtml(QIODevice& destino) : m_destino{destino} {}
+
+    SalidaHtml& operator<<(const QByteArray& texto)
+    {
+        m_texto += texto;
+        return *this;
+    }
+    void envia(qsizetype desde = Trozo)
+    {
+        if (m_texto.size() < desde)
+            return;
+        escribeTodo(m_destino, m_texto);
+        m_texto.clear();
+    }
+
+private:
+    QIODevice& m_destino;
+    QByteArray m_texto;
+};
+
+class TablaHtml final : public DestinoTabla
+{
+public:
+    TablaHtml(const TablaInforme& tabla, SalidaHtml& salida) : m_tabla{tabla}, m_salida{salida} {}
 
     void principio()
     {
-        QByteArray cabeza = Principio;
-        cabeza.replace("%2", hojaDe(m_tabla.pagina())).replace("%1", sinMarcas(m_tabla.titulo()));
-        m_texto = cabeza;
+        m_salida << "<table aria-label=\"" << sinMarcas(m_tabla.titulo()) << "\">\n<thead><tr>";
         for (const ColumnaTabla& columna : m_tabla.columnas())
             celda("th scope=\"col\"", claseDe(columna.horizontal), sinMarcas(columna.titulo), "th");
-        m_texto += "</tr></thead>\n<tbody>\n";
+        m_salida << "</tr></thead>\n<tbody>\n";
     }
 
-    void final()
-    {
-        m_texto += "</tbody>\n";
-        m_texto += Final;
-        escribeTodo(m_destino, m_texto);
-    }
+    void final() { m_salida << "</tbody>\n</table>\n"; }
 
     void empiezaGrupo(int grupo, const QString& titulo) override
     {
-        m_texto += R"(<tr class="grupo n)" + QByteArray::number(grupo) + R"("><th scope="rowgroup" colspan=")" +
-                   QByteArray::number(m_tabla.columnas().size()) + "\">" + sinMarcas(titulo) + "</th></tr>\n";
+        m_salida << R"(<tr class="grupo n)" + QByteArray::number(grupo) + R"("><th scope="rowgroup" colspan=")" +
+                        QByteArray::number(m_tabla.columnas().size()) + "\">" + sinMarcas(titulo) + "</th></tr>\n";
     }
 
     void fila(const std::vector<Valor>& valores) override
     {
-        m_texto += "<tr>";
+        m_salida << "<tr>";
         for (size_t columna = 0; columna < valores.size(); ++columna)
             celdaDe(valores[columna], columna, m_tabla.columnas()[columna].formato);
-        m_texto += "</tr>\n";
-        envia();
+        m_salida << "</tr>\n";
+        m_salida.envia();
     }
 
     void totales(int, const QString& titulo, const std::vector<Valor>& valores) override
     {
-        m_texto += "<tr class=\"total\">";
+        m_salida << "<tr class=\"total\">";
         for (size_t columna = 0; columna < valores.size(); ++columna) {
             if (columna == 0 && !m_tabla.columnas()[0].total)
                 celda("th scope=\"row\"", "", sinMarcas(titulo), "th");
             else
                 celdaDe(valores[columna], columna, m_tabla.columnas()[columna].formatoTotal());
         }
-        m_texto += "</tr>\n";
+        m_salida << "</tr>\n";
     }
 
 private:
@@ -132,32 +149,44 @@ private:
 
     void celda(const char* abre, const char* clase, const QByteArray& contenido, const char* cierra)
     {
-        m_texto.append('<').append(abre).append(clase).append('>').append(contenido);
-        m_texto.append("</").append(cierra).append('>');
-    }
-
-    void envia()
-    {
-        if (m_texto.size() < Trozo)
-            return;
-        escribeTodo(m_destino, m_texto);
-        m_texto.clear();
+        m_salida << "<" << abre << clase << ">" << contenido << "</" << cierra << ">";
     }
 
     const TablaInforme& m_tabla;
-    QIODevice& m_destino;
-    QByteArray m_texto;
+    SalidaHtml& m_salida;
 };
+
+bool escribeTabla(const TablaInforme& tabla, SalidaHtml& salida, const AvanceExportacion& avance)
+{
+    TablaHtml destino{tabla, salida};
+    destino.principio();
+    const bool entera = recorre(tabla, destino, avance);
+    destino.final();
+    return entera;
+}
+
+QByteArray principioDe(const TablaInforme& tabla)
+{
+    QByteArray cabeza = Principio;
+    return cabeza.replace("%2", hojaDe(tabla.pagina())).replace("%1", sinMarcas(tabla.titulo()));
+}
 
 } // namespace
 
-bool escribeHtml(const TablaInforme& tabla, QIODevice& destino, const AvanceExportacion& avance)
+bool escribeHtml(const TablaInforme& tabla, QIODevice& destino, const AvanceExportacion& avance,
+                 std::span<const TablaInforme> subinformes)
 {
-    PaginaHtml pagina{tabla, destino};
-    pagina.principio();
-    if (!recorre(tabla, pagina, avance))
+    SalidaHtml salida{destino};
+    salida << principioDe(tabla);
+    if (!escribeTabla(tabla, salida, avance))
         return false;
-    pagina.final();
+    for (const TablaInforme& una : subinformes) {
+        salida << "<h2>" << sinMarcas(una.titulo()) << "</h2>\n";
+        if (!escribeTabla(una, salida, {}))
+            return false;
+    }
+    salida << Final;
+    salida.envia(0);
     return true;
 }
 

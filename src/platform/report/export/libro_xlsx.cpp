@@ -1,5 +1,6 @@
 #include "platform/report/export/libro_xlsx.h"
 
+#include "platform/report/export/avance_exportacion.h"
 #include "platform/report/export/fichero_provisional.h"
 #include "platform/report/export/formato_hoja.h"
 #include "platform/runtime/error_de_salida.h"
@@ -10,7 +11,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <exception>
 #include <fcntl.h>
+#include <memory>
+#include <utility>
 #include <xlsxwriter.h>
 
 namespace kestrane::report {
@@ -74,6 +78,28 @@ uint8_t lado(Horizontal horizontal)
     return LXW_ALIGN_LEFT;
 }
 
+/// Tells how far the packing is. Nothing may be thrown through the library: what is waits until it is done.
+struct CuentaDeCierre
+{
+    const AvanceExportacion& avance;
+    qint64 todo = 0;
+    qint64 hecho = 0;
+    bool roto = false;
+    std::exception_ptr fallo = nullptr;
+
+    bool sigue(qint64 leidos) noexcept
+    {
+        hecho = std::min(hecho + leidos, todo);
+        try {
+            roto = roto || !report::sigue(avance, hecho, todo);
+        } catch (...) {
+            fallo = std::current_exception();
+            roto = true;
+        }
+        return !roto;
+    }
+};
+
 /// In headers and footers "&" begins a command.
 QByteArray paraCabecera(const QString& titulo)
 {
@@ -93,10 +119,11 @@ LibroXlsx::LibroXlsx(const QString& fichero, const QString& carpeta, const QStri
     QByteArray temporal = QFile::encodeName(carpeta);
     lxw_workbook_options opciones{.constant_memory = LXW_TRUE, .tmpdir = temporal.data(), .use_zip64 = LXW_FALSE};
     m_libro = workbook_new_opt(QFile::encodeName(fichero).constData(), &opciones);
-    m_hoja = m_libro == nullptr ? nullptr : workbook_add_worksheet(m_libro, nombreDeHoja(titulo).toUtf8().constData());
-    if (m_hoja == nullptr || m_hoja->optimize_tmpfile == nullptr) {
+    try {
+        otraHoja(titulo);
+    } catch (...) {
         lxw_workbook_free(m_libro);
-        throw ErrorDeSalida{u"no se puede empezar la hoja de cálculo"_s};
+        throw;
     }
     QByteArray nombre = titulo.toUtf8();
     QByteArray programa = "Kestrane Listados";
@@ -109,6 +136,27 @@ LibroXlsx::LibroXlsx(const QString& fichero, const QString& carpeta, const QStri
 LibroXlsx::~LibroXlsx()
 {
     lxw_workbook_free(m_libro);
+}
+
+void LibroXlsx::otraHoja(const QString& titulo)
+{
+    const QString nombre = nombreLibre(titulo);
+    m_hoja = m_libro == nullptr ? nullptr : workbook_add_worksheet(m_libro, nombre.toUtf8().constData());
+    if (m_hoja == nullptr || m_hoja->optimize_tmpfile == nullptr)
+        throw ErrorDeSalida{u"no se puede empezar la hoja de cálculo"_s};
+    m_hojas.push_back(m_hoja);
+    m_nombres << nombre;
+    m_fila = -1;
+}
+
+/// Sheets do not mind case in their names.
+QString LibroXlsx::nombreLibre(const QString& titulo) const
+{
+    const QString primero = nombreDeHoja(titulo);
+    QString nombre = primero;
+    for (int otro = 2; m_nombres.contains(nombre, Qt::CaseInsensitive); ++otro)
+        nombre = nombreDeHoja(primero, u' ' + QString::number(otro));
+    return nombre;
 }
 
 void LibroXlsx::preparaHoja(const Pagina& pagina, const QString& titulo, bool resumenDebajo)
@@ -181,36 +229,50 @@ void LibroXlsx::texto(int columna, const QString& valor, lxw_format* visto)
 
 /// The library looks at none of its writes on the way: whether the rows are all on the disk, and whether there is room for their
 /// copy and for the packed file, has to be asked for it.
-void LibroXlsx::compruebaDisco() const
+qint64 LibroXlsx::compruebaDisco() const
 {
-    errno = 0;
-    if (std::fflush(m_hoja->optimize_tmpfile) != 0 || std::ferror(m_hoja->optimize_tmpfile) != 0)
-        noSePuedeEscribir(m_fichero, motivoDe(std::error_code{errno == 0 ? ENOSPC : errno, std::generic_category()}));
-    const qint64 filas = std::ftell(m_hoja->optimize_tmpfile);
+    qint64 filas = 0;
+    for (const lxw_worksheet* hoja : m_hojas) {
+        errno = 0;
+        if (std::fflush(hoja->optimize_tmpfile) != 0 || std::ferror(hoja->optimize_tmpfile) != 0)
+            noSePuedeEscribir(m_fichero, motivoDe(std::error_code{errno == 0 ? ENOSPC : errno, std::generic_category()}));
+        filas += std::ftell(hoja->optimize_tmpfile);
+    }
     QTemporaryFile sitio{m_carpeta + u"/sitio"_s};
     if (!sitio.open())
         noSePuedeEscribir(m_fichero, motivoDe(sitio));
     const int error = posix_fallocate(sitio.handle(), 0, 2 * filas + Holgura);
     if (error != 0)
         noSePuedeEscribir(m_fichero, motivoDe(std::error_code{error, std::generic_category()}));
+    return filas;
 }
 
-void LibroXlsx::cierra()
+bool LibroXlsx::cierra(const AvanceExportacion& avance)
 {
-    compruebaDisco();
+    const qint64 todo = compruebaDisco();
     // The library would say it on the standard error, in words of its own.
     QFile fichero{m_fichero};
     if (!fichero.open(QIODevice::WriteOnly))
         noSePuedeEscribir(m_fichero, motivoDe(fichero));
-    errno = 0;
-    const lxw_error error = workbook_close(m_libro);
+    CuentaDeCierre cuenta{avance, todo};
+    const int error = empaqueta([&cuenta](qint64 leidos) { return cuenta.sigue(leidos); });
     const int motivo = errno;
-    m_libro = nullptr;
-    if (error == LXW_NO_ERROR)
-        return;
+    if (cuenta.fallo)
+        std::rethrow_exception(cuenta.fallo);
+    if (cuenta.roto || error == LXW_NO_ERROR)
+        return !cuenta.roto;
     if (motivo != 0)
         noSePuedeEscribir(m_fichero, motivoDe(std::error_code{motivo, std::generic_category()}));
     noSePuedeEscribir(m_fichero, u"la hoja de cálculo no se puede cerrar"_s);
+}
+
+int LibroXlsx::empaqueta(const HojaVigilada::Aviso& aviso)
+{
+    std::vector<std::unique_ptr<HojaVigilada>> vigias;
+    for (lxw_worksheet* hoja : m_hojas)
+        vigias.push_back(std::make_unique<HojaVigilada>(hoja, aviso));
+    errno = 0;
+    return workbook_close(std::exchange(m_libro, nullptr));
 }
 
 } // namespace kestrane::report

@@ -1,7 +1,7 @@
 #include "platform/report/export/png.h"
 
 #include "platform/report/export/avance_exportacion.h"
-#include "platform/report/export/fichero_provisional.h"
+#include "platform/report/export/entrega_conjunta.h"
 #include "platform/runtime/error_de_salida.h"
 #include "platform/runtime/fichero_destino.h"
 
@@ -74,8 +74,10 @@ bool escribePng(const PaginasInforme& paginas, const QString& fichero, const Ava
     }
     if (!sigue(avance, 1, 1))
         return false;
+    EntregaConjunta entrega{carpeta};
     for (int indice = 0; indice < paginas.paginas; ++indice)
-        carpeta.entrega(QString::number(indice), destinos[indice]);
+        entrega.entrega(QString::number(indice), destinos[indice]);
+    entrega.confirma();
     return true;
 }
 

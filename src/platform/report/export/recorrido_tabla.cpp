@@ -30,9 +30,10 @@ public:
             cierra(m_tabla.grupos() - empiezan);
         for (int grupo = m_tabla.grupos() - empiezan; grupo < m_tabla.grupos(); ++grupo)
             abre(grupo, indice);
-        const std::vector<Valor> valores = m_tabla.valores(indice);
-        m_destino.fila(valores);
+        std::vector<Valor> valores = m_tabla.valores(indice);
         suma(valores);
+        m_tabla.oculta(indice, valores);
+        m_destino.fila(valores);
     }
 
     void termina()

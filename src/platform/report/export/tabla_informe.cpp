@@ -51,6 +51,7 @@ void TablaInforme::tomaColumnas()
     for (const ColumnaDatos& columna : m_fuente.layout.columnas) {
         m_columnas.push_back(comoTabla(columna));
         m_expresiones.emplace_back(columna.valor, m_fuente.filas.columnas());
+        m_condiciones.emplace_back(columna.mostrar, m_fuente.filas.columnas());
     }
 }
 
@@ -77,6 +78,15 @@ std::vector<Valor> TablaInforme::valores(qsizetype fila) const
             todos.push_back(m_fuente.filas.valor(fila, columna));
     }
     return todos;
+}
+
+void TablaInforme::oculta(qsizetype fila, std::vector<Valor>& valores) const
+{
+    const AmbitoFila ambito{m_fuente.filas, fila};
+    for (size_t columna = 0; columna < m_condiciones.size(); ++columna) {
+        if (!m_condiciones[columna].cierto(ambito, m_fuente.regional))
+            valores[columna] = Valor{};
+    }
 }
 
 QString TablaInforme::escrito(const Valor& valor, size_t columna) const

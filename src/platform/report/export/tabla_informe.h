@@ -13,6 +13,7 @@ struct FuenteTabla
     const Layout& layout;
     const FilasInforme& filas;
     const ConfiguracionRegional& regional;
+    QString titulo = {}; ///< in place of the layout's
 };
 
 /// A column as it is shown.
@@ -39,14 +40,17 @@ public:
     /// ErrorEjecucion LayoutIncorrecto when a column or a group asks for what the statement does not give.
     explicit TablaInforme(const FuenteTabla& fuente);
 
-    [[nodiscard]] const QString& titulo() const { return m_fuente.layout.titulo; }
+    [[nodiscard]] const QString& titulo() const { return m_fuente.titulo.isEmpty() ? m_fuente.layout.titulo : m_fuente.titulo; }
     [[nodiscard]] const Pagina& pagina() const { return m_fuente.layout.pagina; }
     [[nodiscard]] const ConfiguracionRegional& regional() const { return m_fuente.regional; }
     [[nodiscard]] const std::vector<ColumnaTabla>& columnas() const { return m_columnas; }
     [[nodiscard]] bool conTotales() const;
 
     [[nodiscard]] qsizetype filas() const { return m_fuente.filas.filas(); }
+    /// What totals are reckoned from: also what does not show.
     [[nodiscard]] std::vector<Valor> valores(qsizetype fila) const;
+    /// Makes Null of the values of a row that its columns do not show.
+    void oculta(qsizetype fila, std::vector<Valor>& valores) const;
     /// A value of a column as it stands on paper.
     [[nodiscard]] QString escrito(const Valor& valor, size_t columna) const;
 
@@ -63,6 +67,7 @@ private:
     FuenteTabla m_fuente;
     std::vector<ColumnaTabla> m_columnas;
     std::vector<ExpresionEnlazada> m_expresiones; ///< beside m_columnas; empty: the statement's columns as they come
+    std::vector<ExpresionEnlazada> m_condiciones; ///< of showing, beside m_expresiones
     std::vector<ExpresionEnlazada> m_titulos;     ///< of the groups
 };
 

@@ -16,9 +16,10 @@ class HojaInforme final : public DestinoTabla
 public:
     HojaInforme(const TablaInforme& tabla, LibroXlsx& libro) : m_tabla{tabla}, m_libro{libro} {}
 
-    void cabecera()
+    /// For the paper of `pagina`.
+    void cabecera(const Pagina& pagina)
     {
-        m_libro.preparaHoja(m_tabla.pagina(), m_tabla.titulo(), m_tabla.conTotales());
+        m_libro.preparaHoja(pagina, m_tabla.titulo(), m_tabla.conTotales());
         m_libro.nuevaFila(0);
         for (int columna = 0; columna < columnas(); ++columna) {
             m_libro.ponAncho(columna, datos(columna).ancho);
@@ -77,18 +78,31 @@ private:
 
 } // namespace
 
-bool escribeXlsx(const TablaInforme& tabla, const QString& fichero, const AvanceExportacion& avance)
+bool escribeXlsx(const TablaInforme& tabla, const QString& fichero, const AvanceExportacion& avance,
+                 std::span<const TablaInforme> subinformes)
 {
     constexpr int Cabecera = 1;
+    for (const TablaInforme& una : subinformes)
+        compruebaFilasDeHoja(una.filas() + Cabecera);
     compruebaFilasDeHoja(tabla.filas() + Cabecera); // before millions of them are written in vain
     const CarpetaProvisional carpeta{destinoDeEscritura(fichero)};
     const QString nombre = u"libro.xlsx"_s;
     LibroXlsx libro{carpeta.ruta(nombre), carpeta.ruta(), tabla.titulo()};
-    HojaInforme hoja{tabla, libro};
-    hoja.cabecera();
-    if (!recorre(tabla, hoja, avance))
+    const auto escribe = [&](const TablaInforme& una, const AvanceExportacion& suyo) {
+        HojaInforme hoja{una, libro};
+        hoja.cabecera(tabla.pagina());
+        return recorre(una, hoja, suyo);
+    };
+    constexpr double Escrito = 0.4; // of the time: the rest is packing
+    if (!escribe(tabla, tramo(avance, 0, Escrito)))
         return false;
-    libro.cierra();
+    for (const TablaInforme& una : subinformes) {
+        libro.otraHoja(una.titulo());
+        if (!escribe(una, {}))
+            return false;
+    }
+    if (!libro.cierra(tramo(avance, Escrito, 1)) || !sigue(avance, 1, 1))
+        return false;
     carpeta.entrega(nombre, fichero);
     return true;
 }

@@ -50,26 +50,35 @@ TEST(Csv, ItCanBeBrokenOff)
     EXPECT_FALSE(escribeCsv(informe.tabla(), destino, [](double) { return false; }));
 }
 
+/// Texts and the fields that they become.
+using Campos = std::vector<std::pair<QString, std::string>>;
+
+void comparaCampos(const Campos& campos)
+{
+    for (const auto& [texto, esperado] : campos)
+        EXPECT_EQ(campo(texto), esperado);
+}
+
 TEST(Csv, WhatASpreadsheetWouldReckonStaysText)
 {
-    EXPECT_EQ(campo(u"=1+2"_s), "'=1+2");
-    EXPECT_EQ(campo(u"@SUM(A1)"_s), "'@SUM(A1)");
-    EXPECT_EQ(campo(u"-2+cmd|' /C calc'!A0"_s), "'-2+cmd|' /C calc'!A0");
-    EXPECT_EQ(campo(u"+A1"_s), "'+A1");
-    EXPECT_EQ(campo(u"=HYPERLINK(\"x\";\"y\")"_s), "\"'=HYPERLINK(\"\"x\"\";\"\"y\"\")\"");
-    EXPECT_EQ(campo(u"\t=1"_s), "'\t=1");
-    EXPECT_EQ(campo(u"+34 600 111 222"_s), "+34 600 111 222");
-    EXPECT_EQ(campo(u"-12,50"_s), "-12,50");
-    EXPECT_EQ(campo(u"a=1"_s), "a=1");
+    comparaCampos({{u"=1+2"_s, "'=1+2"},
+                   {u"@SUM(A1)"_s, "'@SUM(A1)"},
+                   {u"-2+cmd|' /C calc'!A0"_s, "'-2+cmd|' /C calc'!A0"},
+                   {u"+A1"_s, "'+A1"},
+                   {u"=HYPERLINK(\"x\";\"y\")"_s, "\"'=HYPERLINK(\"\"x\"\";\"\"y\"\")\""},
+                   {u"\t=1"_s, "'\t=1"},
+                   {u"+34 600 111 222"_s, "+34 600 111 222"},
+                   {u"-12,50"_s, "-12,50"},
+                   {u"a=1"_s, "a=1"}});
 }
 
 TEST(Csv, WhatWouldEndAFieldIsQuoted)
 {
-    EXPECT_EQ(campo(u"a;b"_s), "\"a;b\"");
-    EXPECT_EQ(campo(u"di \"ya\""_s), "\"di \"\"ya\"\"\"");
-    EXPECT_EQ(campo(u"dos\nlíneas"_s), "\"dos\nlíneas\"");
-    EXPECT_EQ(campo(u"Ñandú, S.L."_s), "Ñandú, S.L.");
-    EXPECT_EQ(campo(u""_s), "");
+    comparaCampos({{u"a;b"_s, "\"a;b\""},
+                   {u"di \"ya\""_s, "\"di \"\"ya\"\"\""},
+                   {u"dos\nlíneas"_s, "\"dos\nlíneas\""},
+                   {u"Ñandú, S.L."_s, "Ñandú, S.L."},
+                   {u""_s, ""}});
 }
 
 TEST(Csv, RowsStandUnderTheLayoutsHeadingsWithBareNumbers)
@@ -81,6 +90,18 @@ TEST(Csv, RowsStandUnderTheLayoutsHeadingsWithBareNumbers)
     informe.fila({u"Champú"_s, 1234.25, *Fecha::deCalendario(2024, 3, 5, 9, 5)});
     informe.fila({Valor{}, Valor{}, Valor{}});
     EXPECT_EQ(csv(informe), "\xEF\xBB\xBF\"Artículo; nombre\";Doble;Día\r\nChampú;2468,5;05/03/2024\r\n;;\r\n");
+}
+
+TEST(Csv, WhatItsColumnDoesNotShowIsBlank)
+{
+    InformeDePrueba informe{{u"nombre"_s, u"precio"_s}};
+    informe.columna(u"Nombre"_s, u"nombre"_s);
+    informe.columna(u"Precio"_s, u"precio"_s, {.formato = Formato::Moneda});
+    informe.mostrar(u"precio <> 0"_s);
+    informe.fila({u"A"_s, 0.0});
+    informe.fila({u"B"_s, 1.5});
+    informe.fila({u"C"_s, Valor{}});
+    EXPECT_EQ(csv(informe), "\xEF\xBB\xBFNombre;Precio\r\nA;\r\nB;1,5\r\nC;\r\n");
 }
 
 TEST(Csv, WithoutRowsThereAreTheHeadings)

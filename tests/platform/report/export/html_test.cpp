@@ -99,5 +99,36 @@ TEST(Html, GroupsHaveHeadingsAndTotals)
               "</tbody>\n</table>\n</body>\n</html>\n");
 }
 
+TEST(Html, SubreportsStandBelowTheRows)
+{
+    InformeDePrueba informe{{u"t"_s}};
+    informe.columna(u"Nombre"_s, u"t"_s);
+    informe.fila({u"Ana"_s});
+    InformeDePrueba resumen{{u"n"_s}};
+    resumen.layout.titulo = u"Resumen & más"_s;
+    resumen.columna(u"Importe"_s, u"n"_s, {.formato = Formato::Moneda});
+    resumen.fila({-20.0});
+    const TablaInforme tablas[] = {resumen.tabla()};
+    QBuffer destino;
+    destino.open(QIODevice::WriteOnly);
+    ASSERT_TRUE(escribeHtml(informe.tabla(), destino, {}, tablas));
+    EXPECT_TRUE(destino.data().endsWith("<tr><td>Ana</td></tr>\n</tbody>\n</table>\n"
+                                        "<h2>Resumen &amp; más</h2>\n<table aria-label=\"Resumen &amp; más\">\n"
+                                        "<thead><tr><th scope=\"col\" class=\"d\">Importe</th></tr></thead>\n<tbody>\n"
+                                        "<tr><td class=\"d\">-20,00</td></tr>\n</tbody>\n</table>\n</body>\n</html>\n"))
+        << destino.data().toStdString();
+}
+
+TEST(Html, WhatItsColumnDoesNotShowIsBlankAndCounts)
+{
+    InformeDePrueba informe{{u"n"_s}};
+    informe.columna(u"Importe"_s, u"n"_s, {.formato = Formato::Moneda}, FuncionAgregado::Suma);
+    informe.mostrar(u"n > 1"_s);
+    informe.fila({1.0});
+    informe.fila({2.0});
+    EXPECT_THAT(tabla(informe), HasSubstr("<tbody>\n<tr><td class=\"d\"></td></tr>\n<tr><td class=\"d\">2,00</td></tr>\n"
+                                          "<tr class=\"total\"><td class=\"d\">3,00</td></tr>\n"));
+}
+
 } // namespace
 } // namespace kestrane::report

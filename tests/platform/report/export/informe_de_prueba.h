@@ -34,6 +34,8 @@ public:
 
     void columna(const QString& titulo, const QString& valor, const report::FormatoValor& formato = {},
                  std::optional<report::FuncionAgregado> total = {});
+    /// When the last column shows.
+    void mostrar(const QString& condicion) { layout.columnas.back().mostrar = analiza(condicion); }
     /// An inner group each time; `por` is a column.
     void grupo(const QString& por, const QString& titulo = {});
     void fila(std::vector<Valor> valores) { filas.valores.push_back(std::move(valores)); }

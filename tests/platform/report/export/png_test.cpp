@@ -66,6 +66,22 @@ TEST_F(Png, WhatIsInTheWayOfOnePageKeepsAllOfThemOff)
     EXPECT_EQ(nombres(), QStringList{u"a_002.png"_s});
 }
 
+TEST_F(Png, APageThatCannotTakeItsNameLeavesNoneOfTheSet)
+{
+    QFile vieja{ruta(u"a_001.png"_s)};
+    ASSERT_TRUE(vieja.open(QIODevice::WriteOnly));
+    vieja.write("vieja");
+    vieja.close();
+    const auto ponEstorbo = [this](double hecho) {
+        return hecho < 1 || QDir{m_carpeta.path()}.mkdir(u"a_003.png"_s); // when all pages are written
+    };
+    EXPECT_THROW(escribePng(paginasDePrueba(std::vector<QSizeF>(4, QSizeF{20, 20})), ruta(u"a.png"_s), ponEstorbo, 30),
+                 ErrorDeSalida);
+    EXPECT_EQ(nombres(), (QStringList{u"a_001.png"_s, u"a_003.png"_s}));
+    ASSERT_TRUE(vieja.open(QIODevice::ReadOnly));
+    EXPECT_EQ(vieja.readAll(), "vieja");
+}
+
 TEST_F(Png, MorePagesThanFilesMayBeOpen)
 {
     const prueba::LimiteDeAbiertos limite{100};

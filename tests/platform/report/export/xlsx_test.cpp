@@ -33,9 +33,9 @@ protected:
         lineas.pop_back(); // behind the last line's end
         return lineas;
     }
-    std::vector<std::string> escribeYLee(const InformeDePrueba& informe)
+    std::vector<std::string> escribeYLee(const InformeDePrueba& informe, std::span<const TablaInforme> subinformes = {})
     {
-        EXPECT_TRUE(escribeXlsx(informe.tabla(), fichero(), {}));
+        EXPECT_TRUE(escribeXlsx(informe.tabla(), fichero(), {}, subinformes));
         return leido();
     }
     [[nodiscard]] QStringList nombres() const
@@ -141,6 +141,46 @@ TEST_F(Xlsx, ALayoutWithoutColumnsGivesThoseOfItsStatement)
     informe.fila({u"a"_s, 2.5});
     EXPECT_THAT(escribeYLee(informe),
                 testing::IsSupersetOf<std::string>({"A1\tstr\ttexto1\tGeneral\tbold", "B2\tfloat\t2.5\tGeneral\t"}));
+}
+
+TEST_F(Xlsx, SubreportsHaveSheetsOfTheirOwn)
+{
+    InformeDePrueba informe{{u"a"_s}};
+    informe.columna(u"Nombre"_s, u"a"_s);
+    informe.fila({u"Ana"_s});
+    InformeDePrueba resumen{{u"t"_s, u"n"_s}};
+    resumen.layout.titulo = u"Resumen"_s;
+    resumen.columna(u"Concepto"_s, u"t"_s);
+    resumen.columna(u"Importe"_s, u"n"_s, {.formato = Formato::Moneda}, FuncionAgregado::Suma);
+    resumen.fila({u"Caja"_s, 100.5});
+    resumen.fila({u"Gastos"_s, -20.0});
+    const TablaInforme tablas[] = {resumen.tabla(), resumen.tabla()};
+    const auto todo = escribeYLee(informe, tablas);
+    EXPECT_TRUE(todo[0].starts_with("sheet\t['Prueba', 'Resumen', 'Resumen 2']\tA2")) << todo[0];
+    const std::vector<std::string> resto{todo.begin() + 3, todo.end()};
+    const std::vector<std::string> celdas{"A1\tstr\tConcepto\tGeneral\tbold", "B1\tstr\tImporte\tGeneral\tbold",
+                                          "A2\tstr\tCaja\tGeneral\t",         "B2\tfloat\t100.5\t#,##0.00\t",
+                                          "A3\tstr\tGastos\tGeneral\t",       "B3\tint\t-20\t#,##0.00\t",
+                                          "A4\tstr\tTotal\tGeneral\tbold",    "B4\tfloat\t80.5\t#,##0.00\tbold"};
+    std::vector<std::string> esperado{"A1\tstr\tNombre\tGeneral\tbold", "A2\tstr\tAna\tGeneral\t", "other\tResumen\tA2"};
+    esperado.insert(esperado.end(), celdas.begin(), celdas.end());
+    esperado.emplace_back("other\tResumen 2\tA2");
+    esperado.insert(esperado.end(), celdas.begin(), celdas.end());
+    EXPECT_EQ(resto, esperado);
+}
+
+TEST_F(Xlsx, WhatItsColumnDoesNotShowIsBlankAndCounts)
+{
+    InformeDePrueba informe{{u"a"_s, u"n"_s}};
+    informe.columna(u"Nombre"_s, u"a"_s);
+    informe.columna(u"Importe"_s, u"n"_s, {.formato = Formato::Moneda}, FuncionAgregado::Suma);
+    informe.mostrar(u"n > 1"_s);
+    informe.fila({u"Ana"_s, 1.0});
+    informe.fila({u"Eva"_s, 2.0});
+    const auto todo = escribeYLee(informe);
+    EXPECT_EQ((std::vector<std::string>{todo.begin() + 5, todo.end()}),
+              (std::vector<std::string>{"A2\tstr\tAna\tGeneral\t", "A3\tstr\tEva\tGeneral\t", "B3\tint\t2\t#,##0.00\t",
+                                        "A4\tstr\tTotal\tGeneral\tbold", "B4\tint\t3\t#,##0.00\tbold"}));
 }
 
 TEST_F(Xlsx, LongAndStrangeTextsAreRead)
