@@ -1,6 +1,9 @@
 #include "platform/report/letras_pintadas.h"
 
+#include "platform/report/letras_de_colores.h"
+
 #include <QGlyphRun>
+#include <QPaintEngine>
 
 #include <algorithm>
 #include <cmath>
@@ -60,10 +63,13 @@ void LetrasPintadas::pintaFormado(QPainter& pintor, const QString& texto, QPoint
     const int pixeles = std::max(1, static_cast<int>(std::ceil(cuerpo)));
     pintor.save();
     pintor.setPen(m_color);
-    pintor.setFont(letraDe(m_estilo, pixeles));
+    const QFont letra = letraDe(m_estilo, pixeles);
+    pintor.setFont(letra);
     pintor.translate(base);
     pintor.scale(cuerpo / pixeles, cuerpo / pixeles);
-    pintor.drawText(QPointF{}, texto);
+    const bool enPdf = pintor.paintEngine()->type() == QPaintEngine::Pdf;
+    if (!enPdf || !pintaConColores(pintor, letra, texto))
+        pintor.drawText(QPointF{}, texto);
     pintor.restore();
 }
 
