@@ -53,6 +53,24 @@ TEST(Documento, OutlivesTheRowsOfItsTables)
     EXPECT_THAT(textosDe(documento.pagina(0)), ElementsAre(u"fila 1"_s, u"fila 2"_s, u"Página 1"_s));
 }
 
+TEST(Documento, AmountsHaveTheShopsDecimals)
+{
+    prueba::TiendaDePrueba tienda;
+    tienda.ejecutaListados(u"insert into informes (numerico1) values (1234.5678)"_s);
+    LayoutDePrueba prueba;
+    prueba.layout.sentencia = u"select numerico1 from informes"_s;
+    Banda banda = prueba.banda(10, u"numerico1"_s);
+    std::get<Texto>(banda.elementos.front()).formato.formato = Formato::Moneda;
+    prueba.layout.detalle = {banda, prueba.banda(10, u"'Total ' & formato(suma(numerico1); 'moneda')"_s)};
+    const auto enPapel = [&](int decimales) {
+        tienda.entorno().ponDecimales(decimales);
+        return textosDe(Documento{prueba.layout, tienda.entorno()}.pagina(0));
+    };
+    EXPECT_THAT(enPapel(0), ElementsAre(u"1.235"_s, u"Total 1.235"_s));
+    EXPECT_THAT(enPapel(2), ElementsAre(u"1.234,57"_s, u"Total 1.234,57"_s));
+    EXPECT_THAT(enPapel(3), ElementsAre(u"1.234,568"_s, u"Total 1.234,568"_s));
+}
+
 TEST(Documento, PagesAreLaidOutAsFarAsTheyAreAskedFor)
 {
     prueba::TiendaDePrueba tienda;

@@ -3,20 +3,9 @@
 #include "platform/runtime/fichero_destino.h"
 #include "platform/runtime/motivo_sistema.h"
 
-#include <filesystem>
-
 namespace kestrane::report {
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-std::filesystem::path comoRuta(const QString& nombre)
-{
-    return nombre.toStdU16String();
-}
-
-} // namespace
 
 EntregaConjunta::~EntregaConjunta()
 {

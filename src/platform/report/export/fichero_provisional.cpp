@@ -8,21 +8,16 @@
 #include <QFileInfo>
 
 #include <cerrno>
-#include <filesystem>
 #include <unistd.h>
 
 namespace kestrane::report {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
 std::filesystem::path comoRuta(const QString& nombre)
 {
     return nombre.toStdU16String();
 }
-
-} // namespace
 
 void noSePuedeEscribir(const QString& fichero, const QString& motivo)
 {

@@ -4,6 +4,7 @@
 #include <QString>
 #include <QTemporaryDir>
 
+#include <filesystem>
 #include <functional>
 
 namespace kestrane::report {
@@ -28,6 +29,9 @@ public:
 private:
     QTemporaryDir m_carpeta;
 };
+
+/// A name as the standard library takes it.
+[[nodiscard]] std::filesystem::path comoRuta(const QString& nombre);
 
 /// ErrorDeSalida that names the file.
 [[noreturn]] void noSePuedeEscribir(const QString& fichero, const QString& motivo);

@@ -1,20 +1,13 @@
 #include "platform/report/export/libro_xlsx.h"
 
-#include "platform/report/export/avance_exportacion.h"
-#include "platform/report/export/fichero_provisional.h"
+#include "platform/report/export/cierre_xlsx.h"
 #include "platform/report/export/formato_hoja.h"
 #include "platform/runtime/error_de_salida.h"
-#include "platform/runtime/motivo_sistema.h"
 
 #include <QFile>
-#include <QTemporaryFile>
 
 #include <algorithm>
 #include <cmath>
-#include <exception>
-#include <fcntl.h>
-#include <memory>
-#include <utility>
 #include <xlsxwriter.h>
 
 namespace kestrane::report {
@@ -28,7 +21,6 @@ constexpr double AnchoMinimo = 6;
 constexpr int NivelMaximo = 7; ///< of a sheet's outline
 constexpr lxw_color_t Tinta = 0x24425C;
 constexpr lxw_color_t FondoTotal = 0xEDF2F6;
-constexpr qint64 Holgura = qint64{1024} * 1024;
 
 struct Papel
 {
@@ -77,28 +69,6 @@ uint8_t lado(Horizontal horizontal)
     }
     return LXW_ALIGN_LEFT;
 }
-
-/// Tells how far the packing is. Nothing may be thrown through the library: what is waits until it is done.
-struct CuentaDeCierre
-{
-    const AvanceExportacion& avance;
-    qint64 todo = 0;
-    qint64 hecho = 0;
-    bool roto = false;
-    std::exception_ptr fallo = nullptr;
-
-    bool sigue(qint64 leidos) noexcept
-    {
-        hecho = std::min(hecho + leidos, todo);
-        try {
-            roto = roto || !report::sigue(avance, hecho, todo);
-        } catch (...) {
-            fallo = std::current_exception();
-            roto = true;
-        }
-        return !roto;
-    }
-};
 
 /// In headers and footers "&" begins a command.
 QByteArray paraCabecera(const QString& titulo)
@@ -227,52 +197,9 @@ void LibroXlsx::texto(int columna, const QString& valor, lxw_format* visto)
                            textoDeHoja(valor).toUtf8().constData(), visto);
 }
 
-/// The library looks at none of its writes on the way: whether the rows are all on the disk, and whether there is room for their
-/// copy and for the packed file, has to be asked for it.
-qint64 LibroXlsx::compruebaDisco() const
-{
-    qint64 filas = 0;
-    for (const lxw_worksheet* hoja : m_hojas) {
-        errno = 0;
-        if (std::fflush(hoja->optimize_tmpfile) != 0 || std::ferror(hoja->optimize_tmpfile) != 0)
-            noSePuedeEscribir(m_fichero, motivoDe(std::error_code{errno == 0 ? ENOSPC : errno, std::generic_category()}));
-        filas += std::ftell(hoja->optimize_tmpfile);
-    }
-    QTemporaryFile sitio{m_carpeta + u"/sitio"_s};
-    if (!sitio.open())
-        noSePuedeEscribir(m_fichero, motivoDe(sitio));
-    const int error = posix_fallocate(sitio.handle(), 0, 2 * filas + Holgura);
-    if (error != 0)
-        noSePuedeEscribir(m_fichero, motivoDe(std::error_code{error, std::generic_category()}));
-    return filas;
-}
-
 bool LibroXlsx::cierra(const AvanceExportacion& avance)
 {
-    const qint64 todo = compruebaDisco();
-    // The library would say it on the standard error, in words of its own.
-    QFile fichero{m_fichero};
-    if (!fichero.open(QIODevice::WriteOnly))
-        noSePuedeEscribir(m_fichero, motivoDe(fichero));
-    CuentaDeCierre cuenta{avance, todo};
-    const int error = empaqueta([&cuenta](qint64 leidos) { return cuenta.sigue(leidos); });
-    const int motivo = errno;
-    if (cuenta.fallo)
-        std::rethrow_exception(cuenta.fallo);
-    if (cuenta.roto || error == LXW_NO_ERROR)
-        return !cuenta.roto;
-    if (motivo != 0)
-        noSePuedeEscribir(m_fichero, motivoDe(std::error_code{motivo, std::generic_category()}));
-    noSePuedeEscribir(m_fichero, u"la hoja de cálculo no se puede cerrar"_s);
-}
-
-int LibroXlsx::empaqueta(const HojaVigilada::Aviso& aviso)
-{
-    std::vector<std::unique_ptr<HojaVigilada>> vigias;
-    for (lxw_worksheet* hoja : m_hojas)
-        vigias.push_back(std::make_unique<HojaVigilada>(hoja, aviso));
-    errno = 0;
-    return workbook_close(std::exchange(m_libro, nullptr));
+    return cierraLibro({m_libro, m_hojas, m_fichero, m_carpeta}, avance);
 }
 
 } // namespace kestrane::report

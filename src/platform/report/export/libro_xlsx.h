@@ -1,7 +1,6 @@
 #pragma once
 
 #include "platform/report/export/exportacion.h"
-#include "platform/report/export/hoja_vigilada.h"
 #include "platform/report/layout/layout.h"
 
 #include <QByteArray>
@@ -53,9 +52,6 @@ private:
     void numero(int columna, double valor, lxw_format* visto);
     void texto(int columna, const QString& valor, lxw_format* visto);
     [[nodiscard]] QString nombreLibre(const QString& titulo) const;
-    /// How many bytes of rows there are.
-    [[nodiscard]] qint64 compruebaDisco() const;
-    [[nodiscard]] int empaqueta(const HojaVigilada::Aviso& aviso);
 
     QString m_fichero;
     QString m_carpeta;
