@@ -72,6 +72,7 @@ qint64 compruebaDisco(const LibroEscrito& escrito)
 lxw_error empaqueta(const LibroEscrito& escrito, const HojaVigilada::Aviso& aviso)
 {
     std::vector<std::unique_ptr<HojaVigilada>> vigias;
+    vigias.reserve(escrito.hojas.size());
     for (lxw_worksheet* hoja : escrito.hojas)
         vigias.push_back(std::make_unique<HojaVigilada>(hoja, aviso));
     errno = 0;

@@ -62,10 +62,9 @@ HojaVigilada::HojaVigilada(lxw_worksheet* hoja, Aviso aviso)
 /// The library has begun to copy the rows: what it copies them to is there by now, and nobody has read it yet.
 void HojaVigilada::vigilaElPaquete()
 {
-    if (m_paquete != nullptr || m_hoja->file == nullptr)
+    if (m_paquete != nullptr || m_hoja->file == nullptr || std::fflush(m_hoja->file) != 0)
         return;
     using Paquete = Paso<&Flujo::paquete>;
-    std::fflush(m_hoja->file);
     m_paquete = m_hoja->file;
     if (std::FILE* const flujo = abre(this, {Flujo::leePaquete, Paquete::escribe, Paquete::situa, Paquete::cierra}))
         m_hoja->file = flujo;
