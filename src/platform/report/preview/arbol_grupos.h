@@ -1,8 +1,7 @@
 #pragma once
 
-#include "platform/report/documento.h"
+#include "platform/report/preview/modelo_grupos.h"
 
-#include <QStandardItemModel>
 #include <QTreeView>
 
 namespace kestrane::report {
@@ -15,19 +14,17 @@ class ArbolGrupos final : public QTreeView
 public:
     explicit ArbolGrupos(QWidget* padre = nullptr);
 
-    /// Shows `indice`, of which what was shown before is the beginning.
-    void crece(const std::vector<EntradaIndice>& indice);
-    void vacia(); ///< for a report that is laid out anew
+    /// Shows `indice`, of which what was shown before is the beginning; it outlives the tree or the next `vacia`. As long as more
+    /// is to come (not `entero`), a long one is shown in growing portions.
+    void crece(const std::vector<EntradaIndice>& indice, bool entero);
+    void crece(std::vector<EntradaIndice>&&, bool) = delete;
+    void vacia() { m_modelo.vacia(); } ///< before the report is laid out anew
 
 signals:
     void elegida(int pagina, double y);
 
 private:
-    void anade(const EntradaIndice& entrada);
-
-    QStandardItemModel m_modelo;
-    std::vector<QStandardItem*> m_rama; ///< the last item of each level, from the outside in; the model's
-    std::size_t m_entradas = 0;
+    ModeloGrupos m_modelo;
 };
 
 } // namespace kestrane::report

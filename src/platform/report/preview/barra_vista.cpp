@@ -98,11 +98,11 @@ void BarraVista::anadeTrabajos()
 {
     auto* busca = anade(Icono::Buscar, u"buscar"_s, u"Buscar (Ctrl+F)"_s);
     auto* actualiza = anade(Icono::Actualizar, u"actualizar"_s, u"Actualizar (F5)"_s);
-    auto* exporta = anade(Icono::Exportar, u"exportar"_s, u"Exportar (Ctrl+S)"_s);
-    exporta->setText(u"Exportar"_s);
-    exporta->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    exporta->setPopupMode(QToolButton::InstantPopup);
-    exporta->setMenu(menuExportar());
+    m_exportar = anade(Icono::Exportar, u"exportar"_s, u"Exportar (Ctrl+S)"_s);
+    m_exportar->setText(u"Exportar"_s);
+    m_exportar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    m_exportar->setPopupMode(QToolButton::InstantPopup);
+    m_exportar->setMenu(menuExportar());
     m_imprimir = anade(Icono::Imprimir, u"imprimir"_s, u"Imprimir (Ctrl+P)"_s);
     m_imprimir->setText(u"Imprimir"_s);
     m_imprimir->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
@@ -152,6 +152,15 @@ void BarraVista::ponZoom(Zoom zoom, double porcentaje)
     m_zoom->setAccessibleName(u"Tamaño de las páginas: %1"_s.arg(texto));
     m_ancho->setChecked(zoom.modo == Zoom::Modo::Ancho);
     m_entera->setChecked(zoom.modo == Zoom::Modo::Pagina);
+}
+
+void BarraVista::abreExportar()
+{
+    QMenu& menu = *m_exportar->menu();
+    // On a narrow window the button stands behind the bar's arrow.
+    const QWidget& junto = m_exportar->isVisible() ? static_cast<const QWidget&>(*m_exportar) : *this;
+    menu.popup(junto.mapToGlobal(junto.rect().bottomLeft()));
+    menu.setActiveAction(menu.actions().constFirst());
 }
 
 void BarraVista::editaPagina()

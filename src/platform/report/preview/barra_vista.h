@@ -24,6 +24,8 @@ public:
     void ponZoom(Zoom zoom, double porcentaje);
     void ponPanel(bool visible) { m_panel->setChecked(visible); }
     void permiteImprimir(bool posible) { m_imprimir->setEnabled(posible); }
+    /// The menu of formats, with the first of them marked.
+    void abreExportar();
     /// The keyboard into the field with the page's number.
     void editaPagina();
 
@@ -61,6 +63,7 @@ private:
     QToolButton* m_zoom = nullptr;
     QToolButton* m_ancho = nullptr;
     QToolButton* m_entera = nullptr;
+    QToolButton* m_exportar = nullptr;
     QToolButton* m_imprimir = nullptr;
     QString m_numero; ///< of the current page, as it stands in the field
 };

@@ -165,8 +165,22 @@ void Lienzo::seleccionaPagina()
 
 void Lienzo::copia()
 {
-    if (haySeleccion())
-        QApplication::clipboard()->setText(m_seleccion.texto(m_paginas));
+    static_cast<void>(copia({}));
+}
+
+bool Lienzo::copia(const AvanceExportacion& avance)
+{
+    if (!haySeleccion())
+        return true;
+    const std::optional<QString> texto = m_seleccion.texto(m_paginas, avance);
+    if (texto)
+        QApplication::clipboard()->setText(*texto);
+    return texto.has_value();
+}
+
+int Lienzo::paginasElegidas() const
+{
+    return haySeleccion() ? m_seleccion.hasta().pagina - m_seleccion.desde().pagina + 1 : 0;
 }
 
 void Lienzo::avisaPagina()

@@ -46,6 +46,10 @@ public:
     /// All text of the current page.
     void seleccionaPagina();
     void copia();
+    /// The same in slices: tells `avance` after each page how far it is; false when that broke it off, and then nothing is copied.
+    bool copia(const AvanceExportacion& avance);
+    /// On how many pages there is text that is chosen.
+    [[nodiscard]] int paginasElegidas() const;
 
     /// The page's place in the viewport.
     [[nodiscard]] QRectF cajaEnVentana(int pagina) const;

@@ -4,6 +4,7 @@
 #include <QScroller>
 
 #include <algorithm>
+#include <memory>
 
 namespace kestrane::report {
 
@@ -82,7 +83,9 @@ void PintorMiniaturas::haceSiguiente()
     m_pedidas.pop_back();
     if (m_dibujos.contains(pagina) || pagina >= m_paginas.fuente().paginas())
         return;
-    m_dibujos.insert(pagina, new QPixmap{dibuja(pagina)});
+    auto dibujo = std::make_unique<QPixmap>(dibuja(pagina));
+    const int bytes = dibujo->width() * dibujo->height() * dibujo->depth() / 8;
+    m_dibujos.insert(pagina, dibujo.release(), bytes);
     emit lista(pagina);
 }
 

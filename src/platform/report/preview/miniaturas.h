@@ -33,13 +33,16 @@ class PintorMiniaturas final : public QStyledItemDelegate
     Q_OBJECT
 
 public:
-    static constexpr QSize Hueco{150, 196}; ///< of one entry
+    static constexpr QSize Hueco{150, 196};                 ///< of one entry
+    static constexpr int MaximoGuardado = 16 * 1024 * 1024; ///< bytes of pictures
 
     PintorMiniaturas(PaginasVista& paginas, QObject* padre);
 
     void paint(QPainter* pintor, const QStyleOptionViewItem& opcion, const QModelIndex& indice) const override;
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override { return Hueco; }
     void olvida();
+    /// Bytes of the pictures that are kept.
+    [[nodiscard]] int guardado() const { return int(m_dibujos.totalCost()); }
 
 signals:
     void lista(int pagina); ///< its picture is there now
@@ -49,7 +52,7 @@ private:
     [[nodiscard]] QPixmap dibuja(int pagina);
 
     PaginasVista& m_paginas;
-    mutable QCache<int, QPixmap> m_dibujos{200};
+    mutable QCache<int, QPixmap> m_dibujos{MaximoGuardado};
     mutable std::vector<int> m_pedidas; ///< the last asked for is made first
     mutable QTimer m_turno;
 };

@@ -11,13 +11,16 @@ std::optional<std::pair<LugarTexto, LugarTexto>> Seleccion::enPagina(int pagina,
     return std::pair{pagina == desde().pagina ? desde().lugar : LugarTexto{}, pagina == hasta().pagina ? hasta().lugar : final};
 }
 
-QString Seleccion::texto(PaginasVista& paginas) const
+std::optional<QString> Seleccion::texto(PaginasVista& paginas, const AvanceExportacion& avance) const
 {
     QStringList todo;
+    const double cuantas = hasta().pagina - desde().pagina + 1;
     for (int pagina = desde().pagina; pagina <= hasta().pagina; ++pagina) {
         const TextoPagina texto{paginas.compuesta(pagina)};
         if (const auto trecho = enPagina(pagina, texto.final()))
             todo += texto.entre(trecho->first, trecho->second);
+        if (avance && !avance((pagina - desde().pagina + 1) / cuantas))
+            return std::nullopt;
     }
     return todo.join(u'\n');
 }

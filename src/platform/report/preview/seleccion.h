@@ -29,8 +29,8 @@ public:
     [[nodiscard]] LugarInforme hasta() const { return std::max(m_ancla, m_punta); }
     /// What of a page is chosen, `final` being the end of its text; nothing when none of it is.
     [[nodiscard]] std::optional<std::pair<LugarTexto, LugarTexto>> enPagina(int pagina, LugarTexto final) const;
-    /// As text: pages parted by line ends.
-    [[nodiscard]] QString texto(PaginasVista& paginas) const;
+    /// As text: pages parted by line ends. Tells `avance` after each page how far it is; nothing when that broke it off.
+    [[nodiscard]] std::optional<QString> texto(PaginasVista& paginas, const AvanceExportacion& avance = {}) const;
 
 private:
     LugarInforme m_ancla;

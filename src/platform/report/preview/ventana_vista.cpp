@@ -47,6 +47,7 @@ VentanaVista::VentanaVista(std::unique_ptr<FuenteVista> fuente, const QString& t
     m_panel->setVisible(m_recuerdo.panel);
     m_lienzo->ponZoom(m_recuerdo.zoom);
     m_lienzo->setFocus();
+    m_totalSabido = m_fuente->completa();
     refresca();
     sigueComponiendo();
 }
@@ -63,10 +64,6 @@ void VentanaVista::componeMas()
     const QString motivo = fallo([this] { m_fuente->avanza(QDeadlineTimer{Turno}); });
     if (!motivo.isEmpty() || m_fuente->completa())
         m_turno.stop();
-    if (m_fuente->completa()) {
-        m_paginas.olvida(); // pages that say how many there are were composed without knowing it
-        m_lienzo->viewport()->update();
-    }
     if (!motivo.isEmpty())
         quedaIncompleta(motivo);
     refresca();
@@ -86,11 +83,22 @@ void VentanaVista::quedaIncompleta(const QString& motivo)
     fallaPagina(motivo);
 }
 
+void VentanaVista::totalSabido()
+{
+    // Pages that say how many there are were composed without knowing it.
+    m_totalSabido = true;
+    m_paginas.olvida();
+    m_miniaturas->olvida();
+    m_lienzo->viewport()->update();
+}
+
 void VentanaVista::refresca()
 {
+    if (m_fuente->completa() && !m_totalSabido)
+        totalSabido();
     m_lienzo->anadePaginas();
     m_miniaturas->ponPaginas(m_fuente->paginas());
-    m_arbol->crece(m_fuente->indice());
+    m_arbol->crece(m_fuente->indice(), m_fuente->completa() || m_incompleta);
     m_panel->setTabVisible(PestanaGrupos, !m_fuente->indice().empty());
     m_barra->permiteImprimir(m_servicios.impresion && m_fuente->paginas() > 0);
     m_buscador.sigue();

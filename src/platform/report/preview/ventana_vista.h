@@ -79,6 +79,7 @@ private:
     void conectaBusqueda();
     void atajos();
     void atajo(const QKeySequence& teclas, const std::function<void()>& orden);
+    void atajoDePaginas(const QKeySequence& teclas, const std::function<void()>& orden);
 
     void componeMas();
     void refresca();
@@ -103,6 +104,8 @@ private:
     void fallaPagina(const QString& motivo);
     void quedaIncompleta(const QString& motivo);
     void sigueComponiendo();
+    void totalSabido();
+    void copia();
 
     std::unique_ptr<FuenteVista> m_fuente;
     PaginasVista m_paginas;
@@ -111,6 +114,7 @@ private:
     RecuerdoVista& m_recuerdo;
     QString m_impresora;
     QTimer m_turno;
+    bool m_totalSabido = false;       ///< what is composed knows how many pages there are
     bool m_incompleta = false;        ///< later pages cannot be laid out
     QPointer<DialogoAvance> m_enObra; ///< a long work goes on; the pages are in its hands
 

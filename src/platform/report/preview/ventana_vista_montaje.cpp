@@ -98,17 +98,20 @@ void VentanaVista::atajos()
     atajo(Qt::Key_F3, [this] { m_buscador.activo() ? m_buscador.siguiente() : m_barraBusqueda->abre(); });
     atajo(Qt::SHIFT | Qt::Key_F3, [this] { m_buscador.anterior(); });
     atajo(QKeySequence::Print, [this] { imprime(); });
-    atajo(QKeySequence::Save, [this] { exporta(FormatoExportacion::Pdf); });
+    atajo(QKeySequence::Save, [this] { m_barra->abreExportar(); });
     atajo(Qt::CTRL | Qt::Key_Plus, [this] { m_lienzo->acerca(); });
     atajo(Qt::CTRL | Qt::Key_Minus, [this] { m_lienzo->aleja(); });
     atajo(Qt::CTRL | Qt::Key_0, [this] { m_lienzo->ponZoom({Zoom::Modo::Porcentaje, 100}); });
     atajo(Qt::CTRL | Qt::Key_G, [this] { m_barra->editaPagina(); });
     atajo(Qt::Key_F5, [this] { actualiza(); });
     atajo(Qt::Key_Escape, [this] { escapa(); });
-    for (const auto& [teclas, orden] :
-         {std::pair{QKeySequence::Copy, &Lienzo::copia}, {QKeySequence::SelectAll, &Lienzo::seleccionaPagina}})
-        connect(new QShortcut{teclas, m_lienzo, nullptr, nullptr, Qt::WidgetWithChildrenShortcut}, &QShortcut::activated, m_lienzo,
-                orden);
+    atajoDePaginas(QKeySequence::Copy, [this] { copia(); });
+    atajoDePaginas(QKeySequence::SelectAll, [this] { m_lienzo->seleccionaPagina(); });
+}
+
+void VentanaVista::atajoDePaginas(const QKeySequence& teclas, const std::function<void()>& orden)
+{
+    connect(new QShortcut{teclas, m_lienzo, nullptr, nullptr, Qt::WidgetWithChildrenShortcut}, &QShortcut::activated, this, orden);
 }
 
 void VentanaVista::atajo(const QKeySequence& teclas, const std::function<void()>& orden)

@@ -22,6 +22,7 @@ namespace {
 
 constexpr auto TurnoLargo = 30ms;
 constexpr auto EsperaPagina = 500ms;
+constexpr int PaginasSinAvance = 40;    ///< their text is copied before anybody notices
 constexpr double ParteDeComponer = 0.5; ///< of the bar, when pages are laid out before they are printed
 
 struct TipoFichero
@@ -83,6 +84,7 @@ void VentanaVista::actualiza()
 
 void VentanaVista::vuelveAMostrar()
 {
+    m_arbol->vacia(); // whose index is gone
     const int pagina = m_lienzo->paginaActual();
     const QDeadlineTimer plazo{EsperaPagina};
     // Back to the page that was looked at, if that is soon.
@@ -90,13 +92,13 @@ void VentanaVista::vuelveAMostrar()
         while (m_fuente->paginas() <= pagina && !m_fuente->completa() && !plazo.hasExpired())
             m_fuente->avanza(QDeadlineTimer{TurnoLargo});
     });
+    m_totalSabido = m_fuente->completa();
     m_incompleta = false;
     m_buscador.ponIncompleto(false);
     if (!motivo.isEmpty())
         quedaIncompleta(motivo);
     m_banda->hide();
     m_buscador.busca({}, 0);
-    m_arbol->vacia();
     m_miniaturas->olvida();
     m_lienzo->recomienza();
     sigueComponiendo();
@@ -217,6 +219,17 @@ void VentanaVista::trabaja(const QString& que, const std::function<QString()>& h
     m_lienzo->viewport()->update();
     sigueComponiendo();
     refresca();
+}
+
+void VentanaVista::copia()
+{
+    if (m_enObra)
+        return;
+    if (m_lienzo->paginasElegidas() <= PaginasSinAvance)
+        return m_lienzo->copia();
+    trabaja(
+        u"Copiando"_s, [] { return u"El texto elegido se ha copiado."_s; },
+        [this](const AvanceExportacion& avance) { return m_lienzo->copia(avance); });
 }
 
 bool VentanaVista::completa(const AvanceExportacion& avance)

@@ -25,7 +25,7 @@ protected:
 
 TEST_F(ArbolGruposTest, InnerGroupsHangFromTheirOuterOne)
 {
-    arbol.crece(indice);
+    arbol.crece(indice, true);
     ASSERT_EQ(arbol.model()->rowCount(), 2);
     EXPECT_EQ(entrada(0).data().toString(), u"Sección A"_s);
     EXPECT_EQ(arbol.model()->rowCount(entrada(0)), 2);
@@ -35,22 +35,24 @@ TEST_F(ArbolGruposTest, InnerGroupsHangFromTheirOuterOne)
 
 TEST_F(ArbolGruposTest, GrowsWithoutLosingWhatIsOpen)
 {
-    arbol.crece({indice.begin(), indice.begin() + 2});
+    const std::vector<EntradaIndice> principio{indice.begin(), indice.begin() + 2};
+    arbol.crece(principio, false);
     arbol.expand(entrada(0));
-    arbol.crece(indice);
+    arbol.crece(indice, true);
     EXPECT_TRUE(arbol.isExpanded(entrada(0)));
     EXPECT_EQ(arbol.model()->rowCount(entrada(0)), 2);
 }
 
 TEST_F(ArbolGruposTest, AGroupWithoutATitledOuterOneStandsOutermost)
 {
-    arbol.crece({{u"Familia 1"_s, 1, 0, 40}, {u"Familia 2"_s, 1, 2, 10}});
-    EXPECT_EQ(arbol.model()->rowCount() + arbol.model()->rowCount(entrada(0)), 2);
+    indice = {{u"Familia 1"_s, 1, 0, 40}, {u"Familia 2"_s, 1, 2, 10}};
+    arbol.crece(indice, true);
+    EXPECT_EQ(arbol.model()->rowCount(), 2);
 }
 
 TEST_F(ArbolGruposTest, APressGoesToWhereTheGroupBegins)
 {
-    arbol.crece(indice);
+    arbol.crece(indice, true);
     arbol.resize(300, 300);
     arbol.show();
     const QSignalSpy elegidas{&arbol, &ArbolGrupos::elegida};
@@ -62,7 +64,7 @@ TEST_F(ArbolGruposTest, APressGoesToWhereTheGroupBegins)
 
 TEST_F(ArbolGruposTest, EnterGoesThereToo)
 {
-    arbol.crece(indice);
+    arbol.crece(indice, true);
     arbol.show();
     arbol.setCurrentIndex(entrada(1));
     const QSignalSpy elegidas{&arbol, &ArbolGrupos::elegida};
@@ -71,12 +73,28 @@ TEST_F(ArbolGruposTest, EnterGoesThereToo)
     EXPECT_EQ(elegidas[0][0].toInt(), 3);
 }
 
+TEST_F(ArbolGruposTest, ALongIndexComesInPortionsAndWholeInTheEnd)
+{
+    const QSignalSpy altas{arbol.model(), &QAbstractItemModel::rowsInserted};
+    indice.clear();
+    indice.reserve(100000);
+    while (indice.size() < 100000) {
+        indice.push_back({u"Cliente"_s, 0, int(indice.size()), 0});
+        if (indice.size() % 50 == 0)
+            arbol.crece(indice, false);
+    }
+    EXPECT_LT(altas.size(), 100);
+    EXPECT_GT(arbol.model()->rowCount(), 90000);
+    arbol.crece(indice, true);
+    EXPECT_EQ(arbol.model()->rowCount(), 100000);
+}
+
 TEST_F(ArbolGruposTest, EmptiedItBeginsAnew)
 {
-    arbol.crece(indice);
+    arbol.crece(indice, true);
     arbol.vacia();
     EXPECT_EQ(arbol.model()->rowCount(), 0);
-    arbol.crece(indice);
+    arbol.crece(indice, true);
     EXPECT_EQ(arbol.model()->rowCount(), 2);
 }
 

@@ -60,6 +60,20 @@ TEST_F(MiniaturasTest, ForgottenPicturesAreMadeAnew)
     EXPECT_TRUE(QTest::qWaitFor([this] { return fuente.pedidas.contains(0); }));
 }
 
+TEST_F(MiniaturasTest, PicturesTakeNoMoreThanTheirRoom)
+{
+    auto* pintor = miniaturas.findChild<PintorMiniaturas*>();
+    ASSERT_NE(pintor, nullptr);
+    int mayor = 0;
+    for (int pagina = 0; pagina < 300; pagina += 2) {
+        miniaturas.scrollTo(miniaturas.model()->index(pagina, 0), QAbstractItemView::PositionAtTop);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return fuente.pedidas.contains(pagina); }));
+        mayor = std::max(mayor, pintor->guardado());
+    }
+    EXPECT_GT(mayor, 12 * 1024 * 1024) << "pictures are weighed";
+    EXPECT_LE(mayor, 16 * 1024 * 1024);
+}
+
 TEST_F(MiniaturasTest, APressGoesToThePage)
 {
     const QSignalSpy elegidas{&miniaturas, &Miniaturas::elegida};

@@ -43,6 +43,19 @@ TEST_F(SeleccionTest, GoesOverPages)
     EXPECT_EQ(seleccion.enPagina(1, {1, 13}), (std::pair{LugarTexto{}, LugarTexto{1, 13}}));
 }
 
+TEST_F(SeleccionTest, TellsAfterEachPageHowFarItIsAndIsBrokenOff)
+{
+    seleccion.empieza({0, {0, 0}});
+    seleccion.extiende({2, {0, 4}});
+    QStringList avances;
+    EXPECT_NE(seleccion.texto(paginas, [&](double parte) { return avances += QString::number(parte, 'f', 2), true; }),
+              std::nullopt);
+    EXPECT_EQ(avances, (QStringList{u"0.33"_s, u"0.67"_s, u"1.00"_s}));
+    fuente.pedidas.clear();
+    EXPECT_EQ(seleccion.texto(paginas, [](double parte) { return parte < 0.5; }), std::nullopt);
+    EXPECT_FALSE(fuente.pedidas.contains(2));
+}
+
 TEST_F(SeleccionTest, PagesOutsideHaveNoneOfIt)
 {
     seleccion.empieza({1, {0, 0}});

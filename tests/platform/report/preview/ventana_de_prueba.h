@@ -49,6 +49,8 @@ protected:
     }
     [[nodiscard]] Lienzo& lienzo() const { return *ventana->findChild<Lienzo*>(); }
     [[nodiscard]] QString texto(const char16_t* rotulo) const { return control<QLabel>(rotulo)->text(); }
+    /// What the window tells; "" when it tells nothing.
+    [[nodiscard]] QString aviso() const { return control<QWidget>(u"banda")->isVisible() ? texto(u"textoAviso") : QString{}; }
     void pulsa(const char16_t* boton) { QTest::mouseClick(control<QAbstractButton>(boton), Qt::LeftButton); }
     void tecla(Qt::Key cual, Qt::KeyboardModifiers con = {})
     {

@@ -56,6 +56,18 @@ TEST_F(VentanaVistaTest, PagesComposedWithoutTheTotalAreComposedAnew)
     EXPECT_TRUE(fuente->pedidas.contains(0));
 }
 
+TEST_F(VentanaVistaTest, SmallPagesDrawnWithoutTheTotalAreDrawnAnew)
+{
+    abreConTope(2, 1);
+    auto* pintor = control<Miniaturas>(u"miniaturas")->findChild<PintorMiniaturas*>();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return pintor->guardado() > 0; }));
+    int hechas = 0;
+    QObject::connect(pintor, &PintorMiniaturas::lista, pintor, [&hechas](int pagina) { hechas += pagina == 0 ? 1 : 0; });
+    fuente->tope = 2;
+    ASSERT_TRUE(esperaCompleta());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return hechas == 1; }));
+}
+
 TEST_F(VentanaVistaTest, AnErrorOnALaterPageIsToldAndTheFirstPagesStay)
 {
     abre(9, 1);

@@ -23,7 +23,6 @@ class VentanaVistaTrabajos : public prueba::VentanaDePrueba
 protected:
     void exporta(FormatoExportacion formato) { control<QToolButton>(u"exportar")->menu()->actions().at(int(formato))->trigger(); }
     static void crea(const QString& ruta) { ASSERT_TRUE(QFile{ruta}.open(QIODevice::WriteOnly)); }
-    [[nodiscard]] QString aviso() const { return control<QWidget>(u"banda")->isVisible() ? texto(u"textoAviso") : QString{}; }
     /// Presses "Imprimir" in the dialog and waits for what the window tells of it.
     void aceptaImpresion()
     {
@@ -160,11 +159,27 @@ TEST_F(VentanaVistaTrabajos, WhoWouldRatherNotExportsNothing)
     EXPECT_EQ(aviso(), QString{});
 }
 
-TEST_F(VentanaVistaTrabajos, ControlSExportsToPdf)
+TEST_F(VentanaVistaTrabajos, ControlSOpensTheFormatsOfWhichEnterTakesTheMarkedOne)
 {
     abre(1, 1);
     tecla(Qt::Key_S, Qt::ControlModifier);
-    EXPECT_TRUE(propuesto.endsWith(u".pdf"_s));
+    auto* menu = control<QToolButton>(u"exportar")->menu();
+    ASSERT_TRUE(menu->isVisible());
+    EXPECT_EQ(propuesto, QString{}) << "nothing is exported before a format is chosen";
+    QTest::keyClick(menu, Qt::Key_Down);
+    QTest::keyClick(menu, Qt::Key_Return);
+    EXPECT_TRUE(propuesto.endsWith(u".xlsx"_s)) << propuesto.toStdString();
+    tecla(Qt::Key_S, Qt::ControlModifier);
+    QTest::keyClick(menu, Qt::Key_Return);
+    EXPECT_TRUE(propuesto.endsWith(u".pdf"_s)) << propuesto.toStdString();
+}
+
+TEST_F(VentanaVistaTrabajos, ControlSOnANarrowWindowOpensTheFormatsToo)
+{
+    abre(1, 1);
+    ventana->resize(ventana->minimumSizeHint());
+    tecla(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_TRUE(control<QToolButton>(u"exportar")->menu()->isVisible());
 }
 
 TEST_F(VentanaVistaTrabajos, AnExportShowsABarAndIsBrokenOff)
