@@ -63,6 +63,7 @@ void LetrasPintadas::pintaFormado(QPainter& pintor, const QString& texto, QPoint
     const int pixeles = std::max(1, static_cast<int>(std::ceil(cuerpo)));
     pintor.save();
     pintor.setPen(m_color);
+    pintor.setLayoutDirection(Qt::LayoutDirectionAuto); // the text's own, not the program's
     const QFont letra = letraDe(m_estilo, pixeles);
     pintor.setFont(letra);
     pintor.translate(base);

@@ -76,5 +76,22 @@ TEST(LetrasPintadas, AShapedTextIsAsLargeAsAPlainOne)
     EXPECT_FALSE(tintaDe([&](QPainter& pintor) { letras.pintaFormado(pintor, u"שלום"_s, {100, 100}); }).isEmpty());
 }
 
+TEST(LetrasPintadas, AFullStopBehindATextFromRightToLeftStandsAtItsLeft)
+{
+    const LetrasPintadas letras{grande(), PuntosPorMilimetro};
+    const auto pinta = [&](QPainter& pintor) {
+        pintor.setLayoutDirection(Qt::LeftToRight); // as that of a window is
+        letras.pintaFormado(pintor, u"שלום."_s, {100, 100});
+    };
+    const QRect todo = tintaDe(pinta);
+    const QRect izquierda{todo.topLeft(), QSize{todo.width() / 12, todo.height()}};
+    const QRect punto = tintaDe([&](QPainter& pintor) {
+        pintor.setClipRect(izquierda);
+        pinta(pintor);
+    });
+    EXPECT_FALSE(punto.isEmpty());
+    EXPECT_LT(punto.height(), todo.height() / 3) << "a letter is higher";
+}
+
 } // namespace
 } // namespace kestrane::report
