@@ -4,6 +4,7 @@
 #include "platform/runtime/conversiones.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace kestrane::report {
 
@@ -71,10 +72,13 @@ void Compositor::ponCrecido(const Obra& obra, const Texto& texto, const TextoMed
 {
     const QRectF caja{obra.tramo.lugar.x() + texto.caja.left(), 0, texto.caja.width(), 0};
     double arriba = medido.arriba;
+    bool sigue = false; // the first one on this page begins
     for (const Renglon& renglon : medido.renglones) {
-        if (obra.tramo.terminaAqui(arriba + medido.altoRenglon) && !renglon.texto.isEmpty())
+        if (obra.tramo.terminaAqui(arriba + medido.altoRenglon) && !renglon.texto.isEmpty()) {
             ponRenglon(obra.pagina, renglon, caja, obra.tramo.enPagina(arriba), m_estilos.estilo(medido.estilo).horizontal,
                        medido.estilo);
+            std::get<TextoCompuesto>(obra.pagina.primitivas.back()).sigue = std::exchange(sigue, true);
+        }
         arriba += medido.altoRenglon;
     }
 }

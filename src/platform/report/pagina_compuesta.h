@@ -16,6 +16,7 @@ struct TextoCompuesto
     double ancho = 0;
     QString texto;
     int estilo = 0;
+    bool sigue = false; ///< the text that was painted before it goes on here: it was broken over lines
 };
 
 struct TrazoCompuesto

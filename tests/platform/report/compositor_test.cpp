@@ -76,6 +76,25 @@ TEST(Compositor, TooWideTextsAreCut)
     EXPECT_LE(textos[0].ancho, 20.01);
 }
 
+TEST(Compositor, TheLinesOfABrokenTextGoOnFromItsFirstOnAPage)
+{
+    LayoutDePrueba prueba;
+    const Elemento crece = prueba.crece(u"t"_s, 50);
+    std::vector<bool> siguen;
+    for (const TextoCompuesto& texto : de<TextoCompuesto>(pagina(prueba, crece, u"uno\ndos\n\ntres"_s)))
+        siguen.push_back(texto.sigue);
+    EXPECT_THAT(siguen, ElementsAre(false, true, true));
+    Banda banda;
+    banda.alto = 20;
+    banda.elementos = {crece};
+    prueba.layout.detalle = {banda};
+    const QString largo = u"línea\n"_s.repeated(300);
+    const auto paginas = PaginasDePrueba{prueba.layout, copiaDe({u"t"_s, u"n"_s}, {{largo, 1}})}.paginas();
+    ASSERT_GE(paginas.size(), 2U);
+    EXPECT_FALSE(de<TextoCompuesto>(paginas[1]).at(0).sigue) << "what it goes on from stands on another page";
+    EXPECT_TRUE(de<TextoCompuesto>(paginas[1]).at(1).sigue);
+}
+
 TEST(Compositor, NullIsBlank)
 {
     LayoutDePrueba prueba;
