@@ -11,11 +11,11 @@ constexpr std::chrono::milliseconds CadaAviso{50};
 
 } // namespace
 
-bool imprime(report::Documento& documento, const PeticionImpresion& peticion, const AvanceImpresion& avance)
+int imprime(report::Documento& documento, const PeticionImpresion& peticion, const AvanceImpresion& avance)
 {
     while (!documento.avanza(QDeadlineTimer{CadaAviso})) {
         if (avance && !avance(documento.avance()))
-            return false;
+            return 0;
     }
     report::PintorPaginas pintor;
     const TrabajoImpresion trabajo{

@@ -16,13 +16,14 @@ struct PeticionImpresion
     bool intercaladas = true; ///< each copy whole, one behind the other
 };
 
-/// Told how far the work is (0 to 1). False breaks it off and nothing is printed, as long as pages are laid out; once the first one
-/// goes out there is no way back, and the answer does not matter.
+/// Told how far the work is (0 to 1). False breaks it off: before the first page nothing is printed; later the pages that are
+/// behind come out and the rest does not, unless the system can take the whole job back.
 using AvanceImpresion = std::function<bool(double)>;
 
-/// Lays out to the end and sends the pages to the printer, each on paper of its own size with the layout's margins alone. False
-/// when it was broken off. ErrorDeSalida when there is no printer, when the chosen one is not there (any more), when no page lies
-/// in the range, and when the printer refuses the job. Needs an application of windows or of painting.
-bool imprime(report::Documento& documento, const PeticionImpresion& peticion, const AvanceImpresion& avance = {});
+/// Lays out to the end and sends the pages to the printer, each on paper of its own size with the layout's margins alone. How many
+/// were sent: all that were asked for, or fewer when it was broken off. ErrorDeSalida when there is no printer, when the chosen one
+/// is not there (any more), when no page lies in the range, and when the printer refuses the job. Needs an application of windows
+/// or of painting.
+int imprime(report::Documento& documento, const PeticionImpresion& peticion, const AvanceImpresion& avance = {});
 
 } // namespace kestrane::printing

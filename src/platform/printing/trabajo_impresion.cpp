@@ -32,6 +32,8 @@ struct Intervalo
 {
     int primera = 0; ///< from 0
     int ultima = 0;
+
+    [[nodiscard]] int paginas() const { return ultima - primera + 1; }
 };
 
 Intervalo intervaloDe(const PeticionImpresion& peticion, int paginas)
@@ -79,32 +81,42 @@ bool compruebaPaginas(const TrabajoImpresion& trabajo, const Intervalo& interval
     throw ErrorDeSalida{u"la impresora \"%1\" no admite el trabajo"_s.arg(nombre)};
 }
 
+/// Paints one page after the other; how many, which are fewer when it was broken off.
+int pintaPaginas(QPrinter& impresora, QPainter& lienzo, const TrabajoImpresion& trabajo, const Intervalo& intervalo,
+                 const AvanceImpresion& avance)
+{
+    for (int indice = intervalo.primera; indice <= intervalo.ultima; ++indice) {
+        const int pintadas = indice - intervalo.primera;
+        if (avance && !avance(static_cast<double>(pintadas) / intervalo.paginas()))
+            return pintadas;
+        const report::PaginaCompuesta pagina = trabajo.pagina(indice);
+        ponHoja(impresora, pagina.tamano);
+        if (pintadas == 0 ? !lienzo.begin(&impresora) : !impresora.newPage())
+            noTomaElTrabajo(impresora.printerName());
+        trabajo.pinta(lienzo, pagina, impresora.resolution() / MilimetrosPorPulgada);
+    }
+    return intervalo.paginas();
+}
+
 } // namespace
 
-bool imprimeTrabajo(const TrabajoImpresion& trabajo, const PeticionImpresion& peticion, const AvanceImpresion& avance)
+int imprimeTrabajo(const TrabajoImpresion& trabajo, const PeticionImpresion& peticion, const AvanceImpresion& avance)
 {
     const QString nombre = elige(peticion.impresora);
     const Intervalo intervalo = intervaloDe(peticion, trabajo.paginas);
     if (!compruebaPaginas(trabajo, intervalo, avance))
-        return false;
+        return 0;
     QPrinter impresora{QPrinterInfo::printerInfo(nombre), QPrinter::HighResolution};
     prepara(impresora, trabajo, peticion);
     QPainter lienzo;
-    for (int indice = intervalo.primera; indice <= intervalo.ultima; ++indice) {
-        const double hecho = static_cast<double>(indice - intervalo.primera) / (intervalo.ultima - intervalo.primera + 1);
-        if (avance && !avance(hecho) && indice == intervalo.primera)
-            return false;
-        const report::PaginaCompuesta pagina = trabajo.pagina(indice);
-        ponHoja(impresora, pagina.tamano);
-        if (indice == intervalo.primera ? !lienzo.begin(&impresora) : !impresora.newPage())
-            noTomaElTrabajo(nombre);
-        trabajo.pinta(lienzo, pagina, impresora.resolution() / MilimetrosPorPulgada);
-    }
+    const int pintadas = pintaPaginas(impresora, lienzo, trabajo, intervalo, avance);
+    if (pintadas == 0 || (pintadas < intervalo.paginas() && impresora.abort()))
+        return 0;
     if (!lienzo.end() || impresora.printerState() == QPrinter::Error)
         noTomaElTrabajo(nombre);
     // The print system tells Qt nothing of a job that it did not take: a printer that is gone by now did not.
     elige(nombre);
-    return true;
+    return pintadas;
 }
 
 } // namespace kestrane::printing

@@ -18,6 +18,6 @@ struct TrabajoImpresion
 };
 
 /// As `imprime`, of pages that are known.
-bool imprimeTrabajo(const TrabajoImpresion& trabajo, const PeticionImpresion& peticion, const AvanceImpresion& avance);
+int imprimeTrabajo(const TrabajoImpresion& trabajo, const PeticionImpresion& peticion, const AvanceImpresion& avance);
 
 } // namespace kestrane::printing

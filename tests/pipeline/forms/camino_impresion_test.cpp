@@ -82,16 +82,6 @@ protected:
         ventana.close();
         return ofrecida;
     }
-    QStringList paginas(int trabajo)
-    {
-        QProcess lector;
-        lector.start(u"pdftotext"_s, {u"-layout"_s, servidor.trabajo(trabajo).fichero, u"-"_s});
-        EXPECT_TRUE(lector.waitForFinished());
-        QStringList todas = QString::fromUtf8(lector.readAllStandardOutput()).split(u'\f', Qt::SkipEmptyParts);
-        for (QString& pagina : todas)
-            pagina = pagina.simplified();
-        return todas;
-    }
 
     prueba::TiendaDePrueba tienda;
     prueba::ServidorCups servidor;
@@ -114,7 +104,8 @@ TEST_F(CaminoImpresion, RowsComeOutOfTheQueueThatWasChosenByItsExactName)
     EXPECT_EQ(imprimeDesdeLaVista(), u"Tickets"_s);
     EXPECT_EQ(servidor.trabajo(1).cola, u"Tickets"_s);
     EXPECT_EQ(servidor.trabajo(1).titulo, u"Secciones"_s);
-    EXPECT_THAT(paginas(1), testing::ElementsAre(u"Sección A Sección B Sección C Sección D"_s, u"Sección E Sección F"_s));
+    EXPECT_THAT(prueba::paginasDe(servidor.trabajo(1)),
+                testing::ElementsAre(u"Sección A Sección B Sección C Sección D"_s, u"Sección E Sección F"_s));
     salida.DarImpresora(u"tickets"_s);
     EXPECT_EQ(imprimeDesdeLaVista(), u"Laser"_s) << "not in the list: the default printer";
     EXPECT_EQ(servidor.trabajo(2).cola, u"Laser"_s);

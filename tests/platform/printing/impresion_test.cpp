@@ -8,7 +8,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 
 namespace kestrane::printing {
 namespace {
@@ -48,18 +47,6 @@ protected:
     }
     [[nodiscard]] QString layout() const { return QDir{m_tienda.carpeta()}.filePath(u"prueba.rpt"_s); }
 
-    /// The words of each page of a job.
-    QStringList paginas(int trabajo)
-    {
-        QProcess lector;
-        lector.start(u"pdftotext"_s, {u"-layout"_s, m_servidor.trabajo(trabajo).fichero, u"-"_s});
-        EXPECT_TRUE(lector.waitForFinished());
-        QStringList todas = QString::fromUtf8(lector.readAllStandardOutput()).split(u'\f', Qt::SkipEmptyParts);
-        for (QString& pagina : todas)
-            pagina = pagina.simplified();
-        return todas;
-    }
-
     prueba::TiendaDePrueba m_tienda;
     prueba::ServidorCups m_servidor;
     std::optional<report::Documento> m_documento;
@@ -72,11 +59,12 @@ TEST_F(Imprime, ThePagesOfAReportComeOutOfTheQueueThatWasNamed)
     EXPECT_TRUE(imprime(*m_documento, {.impresora = u"Tickets"_s}));
     EXPECT_EQ(m_servidor.trabajo(1).cola, u"Tickets"_s);
     EXPECT_EQ(m_servidor.trabajo(1).titulo, u"Secciones"_s);
-    EXPECT_THAT(paginas(1), testing::ElementsAre(u"Sección A Sección B Sección C Página 1 de 3"_s,
-                                                 u"Sección D Sección E Sección F Página 2 de 3"_s, u"Sección G Página 3 de 3"_s));
+    EXPECT_THAT(prueba::paginasDe(m_servidor.trabajo(1)),
+                testing::ElementsAre(u"Sección A Sección B Sección C Página 1 de 3"_s,
+                                     u"Sección D Sección E Sección F Página 2 de 3"_s, u"Sección G Página 3 de 3"_s));
     EXPECT_TRUE(imprime(*m_documento, {.impresora = u"Laser"_s, .desde = 2, .hasta = 2}));
     EXPECT_EQ(m_servidor.trabajo(2).cola, u"Laser"_s);
-    EXPECT_THAT(paginas(2), testing::ElementsAre(u"Sección D Sección E Sección F Página 2 de 3"_s));
+    EXPECT_THAT(prueba::paginasDe(m_servidor.trabajo(2)), testing::ElementsAre(u"Sección D Sección E Sección F Página 2 de 3"_s));
 }
 
 } // namespace

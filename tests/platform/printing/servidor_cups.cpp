@@ -170,6 +170,18 @@ void ServidorCups::eligePredeterminada(const QString& nombre)
     administra({u"-d"_s, nombre});
 }
 
+QStringList paginasDe(const TrabajoSalido& salido)
+{
+    QProcess lector;
+    lector.start(u"pdftotext"_s, {u"-layout"_s, salido.fichero, u"-"_s});
+    if (!lector.waitForFinished(EsperaMs) || lector.exitCode() != 0)
+        throw std::runtime_error{"pdftotext: " + lector.readAllStandardError().toStdString()};
+    QStringList paginas = QString::fromUtf8(lector.readAllStandardOutput()).split(u'\f', Qt::SkipEmptyParts);
+    for (QString& pagina : paginas)
+        pagina = pagina.simplified();
+    return paginas;
+}
+
 TrabajoSalido ServidorCups::trabajo(int numero)
 {
     const QString comienzo = ruta(u"salida/%1"_s.arg(numero));

@@ -15,6 +15,9 @@ struct TrabajoSalido
     QString fichero; ///< what was sent
 };
 
+/// The words of each page of a job, line after line, with single blanks between them. std::runtime_error when it cannot be read.
+[[nodiscard]] QStringList paginasDe(const TrabajoSalido& salido);
+
 /// A print server of the test's own on the loopback: its configuration, its spool and its queues lie in a folder that goes with the
 /// object. This process and its children talk to it alone. Works for root and for a plain user.
 class ServidorCups

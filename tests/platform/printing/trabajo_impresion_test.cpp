@@ -13,6 +13,7 @@ namespace kestrane::printing {
 namespace {
 
 using namespace Qt::StringLiterals;
+using prueba::paginasDe;
 using prueba::ServidorCups;
 using prueba::TrabajoSalido;
 
@@ -73,15 +74,6 @@ protected:
         EXPECT_EQ(proceso.exitCode(), 0) << proceso.readAllStandardError().toStdString();
         return QString::fromUtf8(proceso.readAllStandardOutput());
     }
-    /// The text of each page of what was sent.
-    static QStringList paginasDe(const TrabajoSalido& salido)
-    {
-        QStringList paginas = salidaDe(u"pdftotext"_s, {salido.fichero, u"-"_s}).split(u'\f', Qt::SkipEmptyParts);
-        for (QString& texto : paginas)
-            texto = texto.trimmed();
-        return paginas;
-    }
-
     /// Width and height in points of what is sent for such a page.
     static std::pair<double, double> papelDe(QSizeF milimetros)
     {
@@ -152,16 +144,24 @@ TEST_F(TrabajoImpresionTest, WhatIsBrokenOffBeforeTheFirstPageIsNotPrinted)
     EXPECT_EQ(paginasDe(s_servidor->trabajo(antes + 1)), QStringList{u"página 1 señalada"_s}) << "the second alone";
 }
 
-TEST_F(TrabajoImpresionTest, AJobThatWasBegunComesOutWhole)
+TEST_F(TrabajoImpresionTest, WhatIsBrokenOffLaterEndsBehindThePagesThatWereOut)
 {
     const int antes = s_servidor->trabajos();
+    EXPECT_EQ(imprimeTrabajo(trabajo(4), {.impresora = u"Laser"_s}, [](double hecho) { return hecho < 0.5; }), 2);
+    EXPECT_EQ(paginasDe(s_servidor->trabajo(antes + 1)), (QStringList{u"página 1 señalada"_s, u"página 2 señalada"_s}));
+}
+
+TEST_F(TrabajoImpresionTest, TellsHowFarItIsAndHowManyPagesWereSent)
+{
     std::vector<double> avisos;
-    EXPECT_TRUE(imprimeTrabajo(trabajo(4), {.impresora = u"Laser"_s}, [&avisos](double hecho) {
-        avisos.push_back(hecho);
-        return hecho == 0;
-    }));
+    const PeticionImpresion peticion{.impresora = u"Laser"_s, .desde = 2};
+    EXPECT_EQ(imprimeTrabajo(trabajo(5), peticion,
+                             [&avisos](double hecho) {
+                                 avisos.push_back(hecho);
+                                 return true;
+                             }),
+              4);
     EXPECT_THAT(avisos, testing::ElementsAre(0, 0, 0, 0, 0, 0.25, 0.5, 0.75));
-    EXPECT_EQ(paginasDe(s_servidor->trabajo(antes + 1)).size(), 4);
 }
 
 TEST_F(TrabajoImpresionTest, AllPagesComeOutOfTheQueueThatWasNamed)

@@ -18,11 +18,11 @@ QString ImpresionDelSistema::predeterminada() const
     return printing::impresoraPredeterminada();
 }
 
-bool ImpresionDelSistema::imprime(FuenteVista& fuente, const PeticionImpresion& peticion, const AvanceExportacion& avance)
+int ImpresionDelSistema::imprime(FuenteVista& fuente, const PeticionImpresion& peticion, const AvanceExportacion& avance)
 {
     const printing::PeticionImpresion orden{
         .impresora = peticion.impresora, .desde = peticion.desde, .hasta = peticion.hasta, .copias = peticion.copias};
-    return fuente.documento() && printing::imprime(*fuente.documento(), orden, avance);
+    return fuente.documento() ? printing::imprime(*fuente.documento(), orden, avance) : 0;
 }
 
 } // namespace kestrane::report

@@ -10,7 +10,7 @@ class ImpresionDelSistema final : public ImpresionVista
 public:
     [[nodiscard]] QStringList impresoras() const override;
     [[nodiscard]] QString predeterminada() const override;
-    bool imprime(FuenteVista& fuente, const PeticionImpresion& peticion, const AvanceExportacion& avance) override;
+    int imprime(FuenteVista& fuente, const PeticionImpresion& peticion, const AvanceExportacion& avance) override;
 };
 
 } // namespace kestrane::report

@@ -26,9 +26,9 @@ public:
     [[nodiscard]] virtual QStringList impresoras() const = 0;
     /// "" when there is none.
     [[nodiscard]] virtual QString predeterminada() const = 0;
-    /// Sends the pages of a complete report. False when `avance` broke it off; ErrorEjecucion or ErrorDeSalida when the printer
-    /// does not take them.
-    virtual bool imprime(FuenteVista& fuente, const PeticionImpresion& peticion, const AvanceExportacion& avance) = 0;
+    /// Sends the pages of a complete report. How many: all that were asked for unless `avance` broke it off, be it that the first
+    /// ones were out by then. ErrorEjecucion or ErrorDeSalida when the printer does not take them.
+    virtual int imprime(FuenteVista& fuente, const PeticionImpresion& peticion, const AvanceExportacion& avance) = 0;
 };
 
 } // namespace kestrane::report

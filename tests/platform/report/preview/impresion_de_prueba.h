@@ -10,17 +10,17 @@ class ImpresionDePrueba final : public ImpresionVista
 public:
     [[nodiscard]] QStringList impresoras() const override { return nombres; }
     [[nodiscard]] QString predeterminada() const override { return nombres.isEmpty() ? QString{} : nombres.last(); }
-    bool imprime(FuenteVista& fuente, const PeticionImpresion& peticion, const AvanceExportacion& avance) override
+    int imprime(FuenteVista& fuente, const PeticionImpresion& peticion, const AvanceExportacion& avance) override
     {
         completa = fuente.completa();
         peticiones.push_back(peticion);
-        return !alImprimir || alImprimir(avance);
+        return alImprimir ? alImprimir(avance) : 1;
     }
 
     QStringList nombres{QStringLiteral("OKI"), QStringLiteral("HP")};
     std::vector<PeticionImpresion> peticiones;
     bool completa = false;
-    std::function<bool(const AvanceExportacion&)> alImprimir;
+    std::function<int(const AvanceExportacion&)> alImprimir; ///< how many pages it sends
 };
 
 } // namespace kestrane::report::prueba

@@ -275,6 +275,34 @@ TEST_F(VentanaVistaTrabajos, AReportWithoutPagesIsNotPrinted)
     EXPECT_EQ(dialogoImpresion(), nullptr);
 }
 
+TEST_F(VentanaVistaTrabajos, APrintThatIsBrokenOffTellsHowManyPagesWereOut)
+{
+    abre(9, 9);
+    impresion.alImprimir = [this](const AvanceExportacion& avance) {
+        int enviadas = 0;
+        while (enviadas < 9 && avance(enviadas / 9.)) {
+            if (++enviadas == 4)
+                pulsa(u"cancelaAvance");
+        }
+        return enviadas;
+    };
+    pulsa(u"imprimir");
+    aceptaImpresion();
+    EXPECT_EQ(aviso(), u"Impresión cancelada: la impresora HP recibe solo 4 páginas."_s);
+}
+
+TEST_F(VentanaVistaTrabajos, APrintThatIsBrokenOffBeforeItsFirstPageLeavesNoPaper)
+{
+    abre(9, 9);
+    impresion.alImprimir = [this](const AvanceExportacion& avance) {
+        pulsa(u"cancelaAvance");
+        return avance(0) ? 9 : 0;
+    };
+    pulsa(u"imprimir");
+    aceptaImpresion();
+    EXPECT_EQ(aviso(), u"Imprimiendo: cancelado."_s);
+}
+
 TEST_F(VentanaVistaTrabajos, TheBarOfAPrintNeverGoesBack)
 {
     abreConTope(9, 1);
