@@ -11,6 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int AireDeLetrero = 12; ///< beside a caption
 constexpr std::array Porcentajes{50, 75, 100, 125, 150, 200, 300, 400};
 constexpr std::array<std::pair<FormatoExportacion, QStringView>, 5> Formatos{{
     {FormatoExportacion::Pdf, u"Documento PDF…"},
@@ -31,6 +32,9 @@ BarraVista::BarraVista(QWidget* padre)
     setContextMenuPolicy(Qt::PreventContextMenu);
     m_panel->setCheckable(true);
     connect(m_panel, &QToolButton::toggled, this, &BarraVista::panelPedido);
+    // What is behind the arrow of a narrow window are the last ones.
+    addSeparator();
+    anadeSalidas();
     addSeparator();
     anadePaginas();
     addSeparator();
@@ -55,12 +59,12 @@ void BarraVista::anadePaginas()
     m_pagina->setAccessibleName(u"Número de página"_s);
     m_pagina->setToolTip(u"Ir a la página (Ctrl+G)"_s);
     m_pagina->setAlignment(Qt::AlignCenter);
-    m_pagina->setFixedWidth(72);
+    m_pagina->setFixedWidth(64);
     m_pagina->setMaxLength(9);
     addWidget(m_pagina);
     m_total = new QLabel{this};
     m_total->setObjectName(u"totalPaginas"_s);
-    m_total->setMinimumWidth(72);
+    m_total->setMinimumWidth(64);
     m_total->setContentsMargins(6, 0, 6, 0);
     addWidget(m_total);
     m_siguiente = anade(Icono::Siguiente, u"siguiente"_s, u"Página siguiente"_s);
@@ -94,21 +98,41 @@ void BarraVista::anadeZoom()
     connect(m_entera, &QToolButton::clicked, this, [this] { emit zoomPedido({Zoom::Modo::Pagina, 100}); });
 }
 
+void BarraVista::anadeSalidas()
+{
+    m_imprimir = anade(Icono::Imprimir, u"imprimir"_s, u"Imprimir (Ctrl+P)"_s);
+    m_imprimir->setText(u"Imprimir"_s);
+    connect(m_imprimir, &QToolButton::clicked, this, &BarraVista::imprimir);
+    m_exportar = anade(Icono::Exportar, u"exportar"_s, u"Exportar (Ctrl+S)"_s);
+    m_exportar->setText(u"Exportar"_s);
+    m_exportar->setPopupMode(QToolButton::InstantPopup);
+    m_exportar->setMenu(menuExportar());
+    ponLetreros(true);
+}
+
 void BarraVista::anadeTrabajos()
 {
     auto* busca = anade(Icono::Buscar, u"buscar"_s, u"Buscar (Ctrl+F)"_s);
     auto* actualiza = anade(Icono::Actualizar, u"actualizar"_s, u"Actualizar (F5)"_s);
-    m_exportar = anade(Icono::Exportar, u"exportar"_s, u"Exportar (Ctrl+S)"_s);
-    m_exportar->setText(u"Exportar"_s);
-    m_exportar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    m_exportar->setPopupMode(QToolButton::InstantPopup);
-    m_exportar->setMenu(menuExportar());
-    m_imprimir = anade(Icono::Imprimir, u"imprimir"_s, u"Imprimir (Ctrl+P)"_s);
-    m_imprimir->setText(u"Imprimir"_s);
-    m_imprimir->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     connect(busca, &QToolButton::clicked, this, &BarraVista::buscar);
     connect(actualiza, &QToolButton::clicked, this, &BarraVista::actualizar);
-    connect(m_imprimir, &QToolButton::clicked, this, &BarraVista::imprimir);
+}
+
+void BarraVista::ponLetreros(bool visibles)
+{
+    for (QToolButton* boton : {m_imprimir, m_exportar})
+        boton->setToolButtonStyle(visibles ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
+}
+
+void BarraVista::resizeEvent(QResizeEvent* evento)
+{
+    QToolBar::resizeEvent(evento);
+    int letreros = 0;
+    for (const QToolButton* boton : {m_imprimir, m_exportar}) {
+        if (boton->toolButtonStyle() == Qt::ToolButtonIconOnly)
+            letreros += boton->fontMetrics().horizontalAdvance(boton->text()) + AireDeLetrero;
+    }
+    ponLetreros(width() >= sizeHint().width() + letreros);
 }
 
 QMenu* BarraVista::menuZoom()

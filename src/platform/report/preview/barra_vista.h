@@ -44,14 +44,19 @@ signals:
     void exportar(kestrane::report::FormatoExportacion formato);
     void actualizar();
 
+protected:
+    void resizeEvent(QResizeEvent* evento) override;
+
 private:
     QToolButton* anade(Icono cual, const QString& objeto, const QString& nombre);
+    void anadeSalidas();
     void anadePaginas();
     void anadeZoom();
     void anadeTrabajos();
     [[nodiscard]] QMenu* menuZoom();
     [[nodiscard]] QMenu* menuExportar();
     void alEscribirPagina();
+    void ponLetreros(bool visibles);
 
     QToolButton* m_panel;
     QToolButton* m_primera = nullptr;

@@ -120,10 +120,10 @@ void Buscador::buscaEnPagina(int pagina)
 {
     auto& aciertos = m_enRepaso ? m_repasados : m_aciertos;
     m_sinTotal = m_sinTotal || !m_paginas.fuente().completa();
-    const TextoPagina texto{m_paginas.compuesta(pagina)};
-    for (int tramo = 0; tramo < texto.tramos() && int(aciertos.size()) < MaximoAciertos; ++tramo) {
-        for (const Trecho& trecho : encuentra(m_buscado, texto.texto(tramo)))
-            aciertos.push_back({pagina, tramo, trecho});
+    for (const auto& [tramo, trecho] : encuentraEnPagina(m_buscado, TextoPagina{m_paginas.compuesta(pagina)})) {
+        if (int(aciertos.size()) >= MaximoAciertos)
+            return;
+        aciertos.push_back({pagina, tramo, trecho});
     }
 }
 

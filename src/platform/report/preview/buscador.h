@@ -1,7 +1,7 @@
 #pragma once
 
+#include "platform/report/preview/busqueda_pagina.h"
 #include "platform/report/preview/paginas_vista.h"
-#include "platform/report/preview/plegado.h"
 
 #include <QObject>
 #include <QTimer>
@@ -10,7 +10,7 @@
 
 namespace kestrane::report {
 
-/// A stretch of a page's text that was looked for.
+/// A stretch of a page's text that was looked for, as TrechoPagina tells it.
 struct Acierto
 {
     int pagina = 0;

@@ -14,11 +14,12 @@ constexpr QColor ColorAcierto{255, 236, 140};
 constexpr QColor ColorActual{255, 178, 102};
 constexpr int PasosSombra = 5;
 
-void pintaTrecho(QPainter& pintor, const QRectF& caja, double escala, QColor color)
+void pintaTrechos(QPainter& pintor, const std::vector<QRectF>& cajas, double escala, QColor color)
 {
     // Like a marker pen: what is printed there stays as dark as it was.
     pintor.setCompositionMode(QPainter::CompositionMode_Multiply);
-    pintor.fillRect(QRectF{caja.topLeft() * escala, caja.size() * escala}, color);
+    for (const QRectF& caja : cajas)
+        pintor.fillRect(QRectF{caja.topLeft() * escala, caja.size() * escala}, color);
     pintor.setCompositionMode(QPainter::CompositionMode_SourceOver);
 }
 
@@ -64,8 +65,8 @@ void Lienzo::pintaAciertos(QPainter& pintor, int pagina, const TextoPagina& text
     const Acierto* actual = m_buscador.actual() < 0 ? nullptr : &m_buscador.acierto(m_buscador.actual());
     for (const Acierto& acierto : aciertos) {
         if (acierto.tramo < texto.tramos())
-            pintaTrecho(pintor, texto.caja(acierto.tramo, acierto.trecho.desde, acierto.trecho.hasta), m_geometria.escala(),
-                        &acierto == actual ? ColorActual : ColorAcierto);
+            pintaTrechos(pintor, texto.cajas(acierto.tramo, acierto.trecho.desde, acierto.trecho.hasta), m_geometria.escala(),
+                         &acierto == actual ? ColorActual : ColorAcierto);
     }
 }
 
@@ -79,7 +80,7 @@ void Lienzo::pintaSeleccion(QPainter& pintor, int pagina, const TextoPagina& tex
     for (int tramo = trecho->first.tramo; tramo <= trecho->second.tramo && tramo < texto.tramos(); ++tramo) {
         const int desde = tramo == trecho->first.tramo ? trecho->first.caracter : 0;
         const int hasta = tramo == trecho->second.tramo ? trecho->second.caracter : int(texto.texto(tramo).size());
-        pintaTrecho(pintor, texto.caja(tramo, desde, hasta), m_geometria.escala(), color);
+        pintaTrechos(pintor, texto.cajas(tramo, desde, hasta), m_geometria.escala(), color);
     }
 }
 

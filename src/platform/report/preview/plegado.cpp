@@ -53,10 +53,16 @@ TextoPlegado pliega(const QString& texto)
 
 std::vector<Trecho> encuentra(const QString& buscado, const QString& texto)
 {
+    if (texto.size() * MayorExpansion < buscado.size())
+        return {};
+    return encuentra(buscado, pliega(texto));
+}
+
+std::vector<Trecho> encuentra(const QString& buscado, const TextoPlegado& plegado)
+{
     std::vector<Trecho> trechos;
-    if (buscado.isEmpty() || texto.size() * MayorExpansion < buscado.size())
+    if (buscado.isEmpty())
         return trechos;
-    const TextoPlegado plegado = pliega(texto);
     qsizetype lugar = plegado.texto.indexOf(buscado);
     while (lugar >= 0) {
         const qsizetype fin = lugar + buscado.size();

@@ -26,5 +26,7 @@ struct Trecho
 
 /// Where `buscado`, which is folded already, stands in `texto`: stretches that do not overlap. Nothing is found nowhere.
 [[nodiscard]] std::vector<Trecho> encuentra(const QString& buscado, const QString& texto);
+/// The same in a text that is folded already; stretches are of the text as it was.
+[[nodiscard]] std::vector<Trecho> encuentra(const QString& buscado, const TextoPlegado& plegado);
 
 } // namespace kestrane::report

@@ -27,7 +27,14 @@ public:
 
     [[nodiscard]] int tramos() const { return int(m_tramos.size()); }
     [[nodiscard]] const QString& texto(int tramo) const { return m_tramos[tramo].texto; }
-    /// The box around the characters `desde` to before `hasta` of a stretch.
+    /// Whether a stretch is the first line of its cell.
+    [[nodiscard]] bool empieza(int tramo) const { return !m_tramos[tramo].sigue; }
+    /// The stretch with the next line of the same cell; -1 when there is none.
+    [[nodiscard]] int siguiente(int tramo) const { return m_tramos[tramo].siguiente; }
+    /// The boxes around the characters from `desde` of a stretch to before `hasta`, which past its end are those of the next lines
+    /// of its cell. A line in which the reading turns may have several.
+    [[nodiscard]] std::vector<QRectF> cajas(int tramo, int desde, int hasta) const;
+    /// The box around all these.
     [[nodiscard]] QRectF caja(int tramo, int desde, int hasta) const;
     /// The place nearest to a point.
     [[nodiscard]] LugarTexto lugarEn(QPointF punto) const;
@@ -44,13 +51,17 @@ private:
         QRectF caja;
         QFont letra; ///< 100 points of the screen high
         double base = 0;
+        bool sigue = false; ///< a cell that was begun goes on
+        int pintado = 0;    ///< its place in the order of painting
         int linea = 0;
+        int siguiente = -1;
     };
 
     static Tramo tramoDe(const TextoCompuesto& texto, const Estilo& estilo);
     void ordena();
+    void enlaza();
     [[nodiscard]] int tramoCercaDe(QPointF punto) const;
-    [[nodiscard]] static double avanceHasta(const Tramo& tramo, int caracter);
+    static void anadeCajas(const Tramo& tramo, int desde, int hasta, std::vector<QRectF>& destino);
 
     std::vector<Tramo> m_tramos;
 };

@@ -23,6 +23,7 @@ void VentanaVista::monta()
     reparto->addWidget(panelLateral());
     reparto->addWidget(m_lienzo);
     reparto->setStretchFactor(1, 1);
+    reparto->setSizes({m_miniaturas->minimumWidth(), width()}); // a narrow window is for the pages
     columna->addWidget(reparto, 1);
     setCentralWidget(centro);
     montaEstado();

@@ -52,6 +52,21 @@ TEST_F(BarraVistaTest, ButtonsThatLeadNowhereCannotBePressed)
     EXPECT_FALSE(boton(u"ultima"_s)->isEnabled());
 }
 
+TEST_F(BarraVistaTest, PrintAndExportAreInSightHoweverNarrowTheWindow)
+{
+    const auto letrero = [this](const QString& nombre) { return boton(nombre)->toolButtonStyle() == Qt::ToolButtonTextBesideIcon; };
+    EXPECT_TRUE(letrero(u"imprimir"_s));
+    barra.resize(640, 60);
+    EXPECT_FALSE(letrero(u"imprimir"_s)) << "without their captions";
+    EXPECT_FALSE(letrero(u"exportar"_s));
+    QCoreApplication::processEvents();
+    for (const auto* nombre : {u"imprimir", u"exportar", u"siguiente"})
+        EXPECT_TRUE(boton(QString::fromUtf16(nombre))->isVisible());
+    barra.resize(1300, 60);
+    EXPECT_TRUE(letrero(u"imprimir"_s));
+    EXPECT_TRUE(letrero(u"exportar"_s));
+}
+
 TEST_F(BarraVistaTest, AWrittenNumberAsksForThatPage)
 {
     const QSignalSpy pedidas{&barra, &BarraVista::paginaPedida};

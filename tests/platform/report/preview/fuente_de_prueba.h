@@ -10,8 +10,8 @@
 
 namespace kestrane::report::prueba {
 
-/// A report without rows: each page is a list of lines, whose cells are parted by "|". It is laid out a page at a time, as far as a
-/// test lets it.
+/// A report without rows: each page is a list of lines, whose cells are parted by "|" and may be broken by line ends. It is laid
+/// out a page at a time, as far as a test lets it.
 class FuenteDePrueba final : public FuenteVista
 {
 public:
@@ -110,8 +110,12 @@ private:
         const double milimetros = estilos->front().cuerpo * 25.4 / 72 / 100;
         double x = 20;
         for (const QString& celda : linea.split(u'|')) {
-            pagina.primitivas.emplace_back(
-                TextoCompuesto{{x, y}, QFontMetricsF{letra}.horizontalAdvance(celda) * milimetros, celda, 0});
+            double baja = 0;
+            for (const QString& renglon : celda.split(u'\n')) {
+                const double ancho = QFontMetricsF{letra}.horizontalAdvance(renglon) * milimetros;
+                pagina.primitivas.emplace_back(TextoCompuesto{{x, y + baja}, ancho, renglon, 0, baja > 0});
+                baja += 6;
+            }
             x += 60;
         }
     }

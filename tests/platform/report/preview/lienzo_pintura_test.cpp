@@ -55,6 +55,30 @@ TEST_F(LienzoPintura, AllHitsAreMarkedAndTheCurrentOneStandsOut)
     EXPECT_NE(actual, otro);
 }
 
+TEST_F(LienzoPintura, AHitThatIsBrokenOverLinesIsMarkedOnEachOfThem)
+{
+    fuente.hojas[0] = {u"Peluquería\ncentral"_s, u""_s, u"Peluquería"_s};
+    paginas.olvida();
+    busca(u"peluqueria central"_s);
+    ASSERT_EQ(buscador.cuenta(), 1);
+    EXPECT_NE(fondoDe(0, 0, {0, 10}), QColor{Qt::white});
+    EXPECT_NE(fondoDe(0, 1, {0, 7}), QColor{Qt::white});
+    EXPECT_EQ(fondoDe(0, 2, {0, 10}), QColor{Qt::white}) << "another cell with one of the words";
+}
+
+TEST_F(LienzoPintura, AHitInTextFromRightToLeftIsMarkedAtItsRightEnd)
+{
+    const QString shalom = u"\u05E9\u05DC\u05D5\u05DD"_s;
+    fuente.hojas[0] = {shalom};
+    paginas.olvida();
+    busca(shalom.left(1));
+    ASSERT_EQ(buscador.cuenta(), 1);
+    const QRectF todo = lienzo.cajaDeTexto(0, 0, {0, 4});
+    const QImage imagen = foto();
+    EXPECT_NE(imagen.pixelColor(QPointF{todo.right() - 2, todo.top() + 1.5}.toPoint()), QColor{Qt::white});
+    EXPECT_EQ(imagen.pixelColor(QPointF{todo.left() + 2, todo.top() + 1.5}.toPoint()), QColor{Qt::white});
+}
+
 TEST_F(LienzoPintura, WhatIsNotFoundIsNotMarked)
 {
     busca(u"corte"_s);

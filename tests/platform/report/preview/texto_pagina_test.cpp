@@ -75,6 +75,27 @@ TEST(TextoPagina, APointBesideALineMeansThatLine)
     EXPECT_EQ(pagina.lugarEn({0, 28}), (LugarTexto{2, 0}));
 }
 
+TEST(TextoPagina, ACellKnowsItsLines)
+{
+    const TextoPagina pagina = texto({u"uno\ndos|tres"_s, u""_s, u"cuatro"_s});
+    EXPECT_TRUE(pagina.empieza(0));
+    ASSERT_EQ(pagina.siguiente(0), 2) << "read line by line the cell beside it comes first";
+    EXPECT_FALSE(pagina.empieza(2));
+    EXPECT_EQ(pagina.siguiente(2), -1);
+    EXPECT_TRUE(pagina.empieza(1));
+    EXPECT_EQ(pagina.siguiente(1), -1);
+}
+
+TEST(TextoPagina, BoxesGoOnInTheNextLineOfTheCell)
+{
+    const TextoPagina pagina = texto({u"uno\ndos|tres"_s});
+    const auto cajas = pagina.cajas(0, 1, 5);
+    ASSERT_EQ(cajas.size(), 2U);
+    EXPECT_EQ(cajas[0], pagina.caja(0, 1, 3));
+    EXPECT_EQ(cajas[1], pagina.caja(2, 0, 2));
+    EXPECT_EQ(pagina.caja(0, 1, 5), cajas[0].united(cajas[1]));
+}
+
 TEST(TextoPagina, APageWithoutTextHasItsBeginningAlone)
 {
     EXPECT_EQ(TextoPagina{}.lugarEn({10, 10}), LugarTexto{});

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QMenu>
 #include <QScrollBar>
 #include <QTest>
 
@@ -52,6 +53,7 @@ protected:
     /// What the window tells; "" when it tells nothing.
     [[nodiscard]] QString aviso() const { return control<QWidget>(u"banda")->isVisible() ? texto(u"textoAviso") : QString{}; }
     void pulsa(const char16_t* boton) { QTest::mouseClick(control<QAbstractButton>(boton), Qt::LeftButton); }
+    void exporta(FormatoExportacion formato) { control<QToolButton>(u"exportar")->menu()->actions().at(int(formato))->trigger(); }
     void tecla(Qt::Key cual, Qt::KeyboardModifiers con = {})
     {
         QWidget* foco = ventana->focusWidget();

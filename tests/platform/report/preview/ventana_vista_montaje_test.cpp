@@ -94,6 +94,13 @@ TEST_F(VentanaVistaMontaje, TheKeyboardBeginsOnThePages)
     EXPECT_TRUE(lienzo().hasFocus());
 }
 
+TEST_F(VentanaVistaMontaje, OnASmallScreenMostOfTheWindowIsForThePages)
+{
+    recuerdo.tamano = {640, 480};
+    abre(2, 2);
+    EXPECT_GE(lienzo().width(), 400);
+}
+
 TEST_F(VentanaVistaMontaje, WithoutGroupsThereIsNoTree)
 {
     abre(2, 2);
