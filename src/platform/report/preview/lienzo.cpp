@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace kestrane::report {
 
@@ -114,7 +115,7 @@ void Lienzo::ajustaBarras()
 {
     const auto tope = [](double contenido, int ventana) {
         // A fitted page is as wide as the window but for rounding.
-        return int(std::clamp(std::ceil(contenido - 0.01) - ventana, 0., double{std::numeric_limits<int>::max() / 2}));
+        return int(std::clamp(std::ceil(contenido - 0.01) - ventana, 0., std::numeric_limits<int>::max() / 2.));
     };
     const QSizeF contenido = m_geometria.contenido();
     verticalScrollBar()->setRange(0, tope(contenido.height(), viewport()->height()));

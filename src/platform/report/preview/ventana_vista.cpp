@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 namespace kestrane::report {
 
@@ -17,14 +18,14 @@ constexpr auto Turno = 12ms; ///< short enough that the wheel does not stutter
 
 } // namespace
 
-VentanaVista::VentanaVista(std::unique_ptr<FuenteVista> fuente, const QString& titulo, const QString& impresora,
-                           const ServiciosVista& servicios, RecuerdoVista& recuerdo)
+VentanaVista::VentanaVista(std::unique_ptr<FuenteVista> fuente, const QString& titulo, QString impresora, ServiciosVista servicios,
+                           RecuerdoVista& recuerdo)
     : m_fuente{std::move(fuente)}
     , m_paginas{*m_fuente, [this](const QString& motivo) { fallaPagina(motivo); }}
     , m_buscador{m_paginas}
-    , m_servicios{servicios}
+    , m_servicios{std::move(servicios)}
     , m_recuerdo{recuerdo}
-    , m_impresora{impresora}
+    , m_impresora{std::move(impresora)}
     , m_barra{new BarraVista{this}}
     , m_barraBusqueda{new BarraBusqueda{m_buscador, this}}
     , m_banda{new BandaAviso{this}}

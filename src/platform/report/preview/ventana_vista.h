@@ -57,8 +57,8 @@ class VentanaVista final : public QMainWindow
 
 public:
     /// `recuerdo` outlives it. `impresora` is offered first when printing.
-    VentanaVista(std::unique_ptr<FuenteVista> fuente, const QString& titulo, const QString& impresora,
-                 const ServiciosVista& servicios, RecuerdoVista& recuerdo);
+    VentanaVista(std::unique_ptr<FuenteVista> fuente, const QString& titulo, QString impresora, ServiciosVista servicios,
+                 RecuerdoVista& recuerdo);
     ~VentanaVista() override;
 
     [[nodiscard]] FuenteVista& fuente() { return *m_fuente; }
