@@ -1,5 +1,7 @@
 #include "platform/report/preview/arbol_grupos.h"
 
+#include "platform/report/preview/indice_de_prueba.h"
+
 #include <gtest/gtest.h>
 
 #include <QSignalSpy>
@@ -13,8 +15,7 @@ using namespace Qt::StringLiterals;
 class ArbolGruposTest : public testing::Test
 {
 protected:
-    std::vector<EntradaIndice> indice{
-        {u"Sección A"_s, 0, 0, 30}, {u"Familia 1"_s, 1, 0, 40}, {u"Familia 2"_s, 1, 2, 10}, {u"Sección B"_s, 0, 3, 30}};
+    std::vector<EntradaIndice> indice = prueba::seccionesConFamilias();
     ArbolGrupos arbol;
 
     [[nodiscard]] QModelIndex entrada(int fila, const QModelIndex& padre = {}) const
@@ -22,16 +23,6 @@ protected:
         return arbol.model()->index(fila, 0, padre);
     }
 };
-
-TEST_F(ArbolGruposTest, InnerGroupsHangFromTheirOuterOne)
-{
-    arbol.crece(indice, true);
-    ASSERT_EQ(arbol.model()->rowCount(), 2);
-    EXPECT_EQ(entrada(0).data().toString(), u"Sección A"_s);
-    EXPECT_EQ(arbol.model()->rowCount(entrada(0)), 2);
-    EXPECT_EQ(entrada(1, entrada(0)).data().toString(), u"Familia 2"_s);
-    EXPECT_EQ(arbol.model()->rowCount(entrada(1)), 0);
-}
 
 TEST_F(ArbolGruposTest, GrowsWithoutLosingWhatIsOpen)
 {
@@ -41,13 +32,6 @@ TEST_F(ArbolGruposTest, GrowsWithoutLosingWhatIsOpen)
     arbol.crece(indice, true);
     EXPECT_TRUE(arbol.isExpanded(entrada(0)));
     EXPECT_EQ(arbol.model()->rowCount(entrada(0)), 2);
-}
-
-TEST_F(ArbolGruposTest, AGroupWithoutATitledOuterOneStandsOutermost)
-{
-    indice = {{u"Familia 1"_s, 1, 0, 40}, {u"Familia 2"_s, 1, 2, 10}};
-    arbol.crece(indice, true);
-    EXPECT_EQ(arbol.model()->rowCount(), 2);
 }
 
 TEST_F(ArbolGruposTest, APressGoesToWhereTheGroupBegins)

@@ -21,6 +21,13 @@ protected:
     }
     [[nodiscard]] QToolButton* boton(const QString& nombre) const { return barra.findChild<QToolButton*>(nombre); }
 
+    void escribePagina(const QString& texto)
+    {
+        barra.editaPagina();
+        QTest::keyClicks(pagina, texto);
+        QTest::keyClick(pagina, Qt::Key_Return);
+    }
+
     BarraVista barra;
     QLineEdit* pagina = barra.findChild<QLineEdit*>(u"numeroPagina"_s);
     QLabel* total = barra.findChild<QLabel*>(u"totalPaginas"_s);
@@ -71,9 +78,7 @@ TEST_F(BarraVistaTest, AWrittenNumberAsksForThatPage)
 {
     const QSignalSpy pedidas{&barra, &BarraVista::paginaPedida};
     barra.ponPagina(0, 12, true);
-    barra.editaPagina();
-    QTest::keyClicks(pagina, u"7"_s);
-    QTest::keyClick(pagina, Qt::Key_Return);
+    escribePagina(u"7"_s);
     ASSERT_EQ(pedidas.size(), 1);
     EXPECT_EQ(pedidas[0][0].toInt(), 6);
 }
@@ -82,9 +87,7 @@ TEST_F(BarraVistaTest, WhatIsNoNumberIsForgotten)
 {
     const QSignalSpy pedidas{&barra, &BarraVista::paginaPedida};
     barra.ponPagina(2, 12, true);
-    barra.editaPagina();
-    QTest::keyClicks(pagina, u"siete"_s);
-    QTest::keyClick(pagina, Qt::Key_Return);
+    escribePagina(u"siete"_s);
     EXPECT_EQ(pedidas.size(), 0);
     EXPECT_EQ(pagina->text(), u"3"_s);
 }

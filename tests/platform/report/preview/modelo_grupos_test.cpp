@@ -1,5 +1,7 @@
 #include "platform/report/preview/modelo_grupos.h"
 
+#include "platform/report/preview/indice_de_prueba.h"
+
 #include <gtest/gtest.h>
 
 #include <QAbstractItemModelTester>
@@ -13,8 +15,7 @@ using namespace Qt::StringLiterals;
 class ModeloGruposTest : public testing::Test
 {
 protected:
-    std::vector<EntradaIndice> indice{
-        {u"Sección A"_s, 0, 0, 30}, {u"Familia 1"_s, 1, 0, 40}, {u"Familia 2"_s, 1, 2, 10}, {u"Sección B"_s, 0, 3, 30}};
+    std::vector<EntradaIndice> indice = prueba::seccionesConFamilias();
     ModeloGrupos modelo;
     QAbstractItemModelTester comprueba{&modelo, QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
@@ -68,6 +69,13 @@ TEST_F(ModeloGruposTest, GroupsWithoutAnOuterOneHangFromTheNextOneOut)
     EXPECT_EQ(modelo.index(0, 0, modelo.index(0, 0)).data().toString(), u"Ficha 1"_s);
     EXPECT_EQ(modelo.rowCount(modelo.index(1, 0)), 0);
     EXPECT_EQ(modelo.index(0, 0, modelo.index(2, 0)).data().toString(), u"Ficha 2"_s);
+}
+
+TEST_F(ModeloGruposTest, GroupsOfOneLevelStandBesideEachOtherWhetherOrNotTheyHaveAnOuterOne)
+{
+    indice = {{u"Familia 1"_s, 1, 0, 40}, {u"Familia 2"_s, 1, 2, 10}};
+    modelo.crece(indice);
+    EXPECT_EQ(modelo.rowCount(), 2);
 }
 
 TEST_F(ModeloGruposTest, EmptiedItIsEmptyAndGrowsAnew)
