@@ -2,7 +2,6 @@
 
 #include "platform/report/preview/estilo_vista.h"
 
-#include <QButtonGroup>
 #include <QFormLayout>
 #include <QHBoxLayout>
 
@@ -115,9 +114,8 @@ QWidget* DialogoImpresion::filaDePaginas(int paginas)
     // Whoever types a number means it.
     connect(m_desde, &QSpinBox::valueChanged, m_algunas, [this] { m_algunas->setChecked(true); });
     connect(m_hasta, &QSpinBox::valueChanged, m_algunas, [this] { m_algunas->setChecked(true); });
-    auto* grupo = new QButtonGroup{this}; // the buttons have different parents
     for (QRadioButton* uno : {m_todas, m_soloActual, m_algunas})
-        grupo->addButton(uno);
+        m_cuales.addButton(uno);
     return fila;
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/report/preview/impresion_vista.h"
 
+#include <QButtonGroup>
 #include <QComboBox>
 #include <QDialog>
 #include <QLabel>
@@ -35,6 +36,7 @@ private:
     QRadioButton* m_todas;
     QRadioButton* m_soloActual;
     QRadioButton* m_algunas;
+    QButtonGroup m_cuales; ///< these three, which have different parents
     QSpinBox* m_desde;
     QSpinBox* m_hasta;
     QSpinBox* m_copias;
