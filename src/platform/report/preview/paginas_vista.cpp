@@ -32,9 +32,8 @@ const PaginaVista& PaginasVista::vista(int pagina)
     auto nueva = std::make_unique<PaginaVista>();
     nueva->compuesta = compuesta(pagina);
     nueva->texto = TextoPagina{nueva->compuesta};
-    const PaginaVista& vista = *nueva;
     m_cache.insert(pagina, nueva.release());
-    return vista;
+    return *m_cache.object(pagina);
 }
 
 QSizeF PaginasVista::tamano(int pagina)
