@@ -1,0 +1,68 @@
+#include "platform/suite/windows/escalador_ventanas.h"
+
+#include "platform/suite/windows/controles_de.h"
+#include "platform/suite/windows/escala_control.h"
+#include "platform/suite/windows/letra_ventana.h"
+
+#include <QVariant>
+
+#include <algorithm>
+#include <cmath>
+
+namespace kestrane {
+
+namespace {
+
+constexpr double EscalaMenor = 0.5;
+constexpr double EscalaMayor = 4;
+
+constexpr char Escala[] = "kestraneEscala"; ///< of a window: the factors of all calls, as they came
+
+/// The factors of all calls: as they came, but that no row of absurd ones leaves the numbers for good.
+QPointF llevada(QPointF escala)
+{
+    constexpr double Tope = 1e12;
+    return {std::clamp(escala.x(), 1 / Tope, Tope), std::clamp(escala.y(), 1 / Tope, Tope)};
+}
+
+/// By how much one direction changes; by nothing where a size is none.
+double factor(double destino, double origen)
+{
+    const double cociente = destino / origen;
+    return std::isfinite(cociente) && destino > 0 && cociente > 0 ? cociente : 1;
+}
+
+/// Without the last digits, in which 3 / 2 * 2 / 3 is not 1.
+double limpio(double escala)
+{
+    constexpr double Cifras = 1e9;
+    return std::round(escala * Cifras) / Cifras;
+}
+
+QPointF escalaDe(const QWidget& ventana)
+{
+    const QVariant escala = ventana.property(Escala);
+    return escala.isValid() ? escala.toPointF() : QPointF{1, 1};
+}
+
+EscalaControl acotada(QPointF escala)
+{
+    return {std::clamp(limpio(escala.x()), EscalaMenor, EscalaMayor), std::clamp(limpio(escala.y()), EscalaMenor, EscalaMayor)};
+}
+
+} // namespace
+
+void EscaladorVentanas::EscalarForm(QWidget& ventana, TamanoVentana destino, TamanoVentana origen) const
+{
+    const QPointF antes = escalaDe(ventana);
+    const QPointF ahora = llevada({antes.x() * factor(destino.ancho, origen.ancho), antes.y() * factor(destino.alto, origen.alto)});
+    ventana.setProperty(Escala, ahora);
+    const CambioEscala cambio{acotada(antes), acotada(ahora)};
+    const QSize tamano = ventana.size();
+    for (QWidget* control : controlesDe(ventana))
+        escalaControl(*control, cambio);
+    LetraVentana{ventana}.ponEscala(cambio.ahora.menor());
+    escalaTamano(ventana, tamano, cambio);
+}
+
+} // namespace kestrane
