@@ -91,7 +91,7 @@ constexpr Paleta AltoContraste{
     .textoAcento = 0x000000,
     .seleccion = 0xffff00,
     .textoSeleccion = 0x000000,
-    .resalte = 0x003a75,
+    .resalte = 0x4d4d00,
     .foco = 0x00ffff,
     .aviso = 0xffb000,
     .listados = 0x003c33,
