@@ -170,6 +170,8 @@ QSize EstiloSuite::sizeFromContents(ContentsType tipo, const QStyleOption* opcio
     case CT_SpinBox:
     case CT_ComboBox:
         return tamano + QSize{8, 8};
+    case CT_MenuItem:
+        return tamano + QSize{8, 12}; // which lists that drop down have too
     case CT_GroupBox:
         return tamano + QSize{2 * complejos::MargenTitulo + contenido.width() / 10, 0}; // the title is bold
     default:

@@ -13,7 +13,7 @@ namespace kestrane {
 namespace {
 
 constexpr double PuntosMenores = 6;
-constexpr double PuntosMayores = 48;
+constexpr double PuntosMayores = LetraMayor;
 
 // Of the window.
 constexpr char Tamano[] = "kestraneLetra";       ///< as the operator set it

@@ -7,6 +7,9 @@ namespace kestrane {
 /// The one family of letters of all windows, which is that of the reports.
 inline constexpr QLatin1StringView FamiliaLetra{"DejaVu Sans"};
 
+/// No setting goes beyond.
+inline constexpr qint32 LetraMayor = 48;
+
 /// What decides on the letters of a window: the operator's setting and the window's scale. Either may be given first and both
 /// again; each control keeps how large its letters are against the window's.
 class LetraVentana

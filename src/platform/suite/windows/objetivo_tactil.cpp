@@ -1,6 +1,7 @@
 #include "platform/suite/windows/objetivo_tactil.h"
 
 #include "platform/suite/windows/controles_de.h"
+#include "platform/suite/windows/pinta_calendario.h"
 #include "platform/suite/windows/propiedades_ventana.h"
 
 #include <QAbstractButton>
@@ -17,6 +18,8 @@ constexpr char Dado[] = "kestraneTactilDado";
 
 bool esParteDeOtro(const QWidget& control)
 {
+    if (esDeCalendario(control))
+        return false; // a hit on its arrows is worth as much
     const QObject* padre = control.parent();
     return esParteDeQt(control) || qobject_cast<const QAbstractSpinBox*>(padre) || qobject_cast<const QComboBox*>(padre);
 }

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QLabel>
+#include <QToolTip>
 
 #include <limits>
 
@@ -29,6 +31,20 @@ TEST(AplicadorLetraTest, ASettingThatIsNoSizeGivesThatOfANewTerminal)
         AplicadorLetra{}.AplicarLetra(ventana, letra);
         EXPECT_DOUBLE_EQ(ventana.font().pointSizeF(), 10) << letra;
     }
+}
+
+TEST(AplicadorLetraTest, WhatBelongsToNoWindowHasTheSameLetters)
+{
+    QWidget ventana;
+    for (const qint32 letra : {14, 9}) {
+        AplicadorLetra{}.AplicarLetra(ventana, letra);
+        for (const QFont& puesta : {QApplication::font(), QToolTip::font()}) {
+            EXPECT_EQ(puesta.family(), u"DejaVu Sans"_s);
+            EXPECT_EQ(puesta.pointSize(), letra);
+        }
+    }
+    AplicadorLetra{}.AplicarLetra(ventana, 1000000);
+    EXPECT_EQ(QApplication::font().pointSize(), 48);
 }
 
 } // namespace

@@ -5,14 +5,18 @@
 
 #include <gtest/gtest.h>
 
+#include <QCalendarWidget>
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QToolButton>
 
 namespace kestrane {
 namespace {
+
+using namespace Qt::StringLiterals;
 
 TEST(ObjetivoTactilTest, WhereTheWindowAsksWhatAFingerHitsIsHighEnough)
 {
@@ -29,6 +33,16 @@ TEST(ObjetivoTactilTest, WhereTheWindowAsksWhatAFingerHitsIsHighEnough)
         EXPECT_EQ(control->minimumHeight(), 44) << control->metaObject()->className();
     EXPECT_EQ(rotulo.minimumHeight(), 0);
     EXPECT_EQ(contador.findChild<QLineEdit*>()->minimumHeight(), 0); // a part of the counter
+}
+
+TEST(ObjetivoTactilTest, TheArrowsOfACalendarAreForFingersToo)
+{
+    QWidget ventana;
+    ventana.setProperty(propiedades::Tactil, true);
+    QCalendarWidget calendario{&ventana};
+    daObjetivosTactiles(ventana);
+    for (const QString& nombre : {u"qt_calendar_prevmonth"_s, u"qt_calendar_nextmonth"_s, u"qt_calendar_monthbutton"_s})
+        EXPECT_EQ(calendario.findChild<QToolButton*>(nombre)->minimumHeight(), 44) << nombre.toStdString();
 }
 
 TEST(ObjetivoTactilTest, WhereOneControlAsksItIsThatOne)
