@@ -99,6 +99,10 @@ void EstiloSuite::drawPrimitive(PrimitiveElement elemento, const QStyleOption* o
         return trazos::circulo(*pintor, *opcion);
     case PE_FrameGroupBox:
         return trazos::tarjeta(*pintor, opcion->rect, opcion->palette);
+    case PE_PanelMenu:
+        pintor->fillRect(opcion->rect, opcion->palette.color(QPalette::Base));
+        return marco(*pintor, *opcion, control);
+    case PE_FrameTabWidget:
     case PE_Frame:
         return marco(*pintor, *opcion, control);
     case PE_FrameFocusRect:

@@ -9,6 +9,8 @@
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLineEdit>
+#include <QMenu>
+#include <QPainter>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QStyleOption>
@@ -99,6 +101,25 @@ TEST_F(EstiloSuiteTest, AFrameIsACardWhereItSaysSo)
     marco.render(&imagen, {}, {}, QWidget::DrawChildren);
     EXPECT_EQ(imagen.pixelColor(100, 30), QColor{Qt::red});
     EXPECT_EQ(imagen.pixelColor(0, 0).alpha(), 0);
+}
+
+TEST_F(EstiloSuiteTest, MenusAndPagesOfTabsHaveABorderAroundAPlainGround)
+{
+    QMenu menu;
+    menu.addAction(u"Copiar"_s);
+    const QImage deMenu = pintado(menu);
+    EXPECT_EQ(deMenu.pixelColor(100, 0), coloresDe(1).color(QPalette::Mid));
+    EXPECT_EQ(deMenu.pixelColor(100, 58), coloresDe(1).color(QPalette::Base));
+
+    QStyleOptionTabWidgetFrame pagina;
+    pagina.rect = {0, 0, 200, 60};
+    pagina.palette = coloresDe(1);
+    QImage imagen{pagina.rect.size(), QImage::Format_ARGB32_Premultiplied};
+    imagen.fill(Qt::transparent);
+    QPainter pintor{&imagen};
+    QApplication::style()->drawPrimitive(QStyle::PE_FrameTabWidget, &pagina, &pintor);
+    EXPECT_EQ(imagen.pixelColor(100, 0), coloresDe(1).color(QPalette::Mid));
+    EXPECT_EQ(imagen.pixelColor(100, 30).alpha(), 0);
 }
 
 TEST_F(EstiloSuiteTest, TheTitleOfAGroupHasRoomAboveItsContents)
