@@ -13,19 +13,15 @@ AspectoDeSuite::AspectoDeSuite(ContextoEjecucion& contexto, PermisosEmpleado& pe
 
 void AspectoDeSuite::ponPrincipal(QWidget* principal, QWidget* exterior, QWidget* interior)
 {
-    m_principal = principal;
-    m_exterior = exterior;
-    m_interior = interior;
+    m_formas = {principal, exterior, interior};
 }
 
 QPoint AspectoDeSuite::esquinaPrincipal() const
 {
     QPoint esquina;
-    if (m_principal)
-        esquina += m_principal->frameGeometry().topLeft();
-    for (const QWidget* marco : {m_exterior.data(), m_interior.data()}) {
-        if (marco)
-            esquina += marco->pos();
+    for (const QPointer<QWidget>& forma : m_formas) {
+        if (forma)
+            esquina += forma->pos(); // of a window, its frame's
     }
     return esquina;
 }

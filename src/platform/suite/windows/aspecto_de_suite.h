@@ -10,6 +10,8 @@
 
 #include <QPointer>
 
+#include <vector>
+
 namespace kestrane {
 
 /// Dresses windows by the suite's objects. Theme, font setting and employee are those that the run context has at each call.
@@ -44,9 +46,7 @@ private:
     PaletaColores m_paleta;
     AplicadorLetra m_letra;
     EscaladorVentanas m_escalador;
-    QPointer<QWidget> m_principal;
-    QPointer<QWidget> m_exterior;
-    QPointer<QWidget> m_interior;
+    std::vector<QPointer<QWidget>> m_formas; ///< the main form, then its frames from the outside in
 };
 
 } // namespace kestrane
