@@ -20,8 +20,16 @@ ErrorEjecucion sinNumero(const QString& descripcion)
 
 bool Aplicacion::notify(QObject* quien, QEvent* evento)
 {
+    bool hecho = true;
+    intenta([&] { hecho = QApplication::notify(quien, evento); });
+    return hecho;
+}
+
+bool Aplicacion::intenta(const std::function<void()>& que)
+{
     try {
-        return QApplication::notify(quien, evento);
+        que();
+        return true;
     } catch (const ErrorEjecucion& error) {
         falla(error);
     } catch (const ErrorDeSalida& error) {
@@ -31,7 +39,7 @@ bool Aplicacion::notify(QObject* quien, QEvent* evento)
     } catch (const std::exception& error) {
         falla(sinNumero(u"El programa no puede seguir: %1."_s.arg(QString::fromLocal8Bit(error.what()))));
     }
-    return true;
+    return false;
 }
 
 /// The box serves events, of which another may fail: one box is enough.

@@ -20,6 +20,9 @@ public:
     /// What is done about an error: it tells of it and ends the program. What fails meanwhile is passed over.
     void alFallar(std::function<void(const ErrorEjecucion&)> falla) { m_falla = std::move(falla); }
 
+    /// Does `que`; what it throws is told as an error of an event is. Whether nothing was thrown.
+    bool intenta(const std::function<void()>& que);
+
     bool notify(QObject* quien, QEvent* evento) override;
 
 private:

@@ -1,5 +1,7 @@
 #include "escritorio/mostrador.h"
 
+#include "dialogs/formas_de_orden.h"
+#include "dialogs/frm_fechas.h"
 #include "platform/report/export/exportacion.h"
 
 namespace kestrane::escritorio {
@@ -20,7 +22,20 @@ Mostrador::Mostrador(const PiezasMostrador& piezas)
     , m_salida{piezas.contexto, {m_report, m_impresoras, m_espera, m_mensajes, m_eventos}}
     , m_ejecutor{piezas.contexto, {m_menu, m_dialogos, m_progreso, m_salida, m_mensajes}, piezas.reloj}
 {
+    ofreceDialogos({piezas.contexto, piezas.aspecto, piezas.reloj, m_mensajes, &m_menu});
+}
+
+void Mostrador::ofreceDialogos(const ServiciosDialogo& servicios)
+{
     m_dialogos.ofrece(Dialogo::EtiquetasClientes, [this](const QString&) { m_menu.tomaEtiquetas(); });
+    m_dialogos.ofrece(Dialogo::Fechas, [servicios](const QString& titulo) {
+        muestraModal<FrmFechas>(servicios, PreparacionFechas{.ConFormatos = false, .Titulo = titulo});
+    });
+    m_dialogos.ofrece(Dialogo::FechasConFormatos, [servicios](const QString& titulo) {
+        muestraModal<FrmFechas>(servicios, PreparacionFechas{.ConFormatos = true, .Titulo = titulo});
+    });
+    m_dialogos.ofrece(Dialogo::OrdenClientes, [servicios](const QString&) { muestraModal<FrmOrdenClientes>(servicios); });
+    m_dialogos.ofrece(Dialogo::OrdenServicios, [servicios](const QString&) { muestraModal<FrmOrdenServicios>(servicios); });
 }
 
 } // namespace kestrane::escritorio

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialogs/forma_filtro.h"
 #include "pipeline/catalogue/ejecutor.h"
 #include "pipeline/forms/control_report_vista.h"
 #include "pipeline/forms/dialogos_en_ventana.h"
@@ -36,6 +37,8 @@ public:
     [[nodiscard]] report::VentanasVista& vistas() { return m_vistas; }
 
 private:
+    void ofreceDialogos(const ServiciosDialogo& servicios);
+
     FrmListados m_menu;
     MensajesEnVentana m_mensajes{&m_menu};
     ProgresoEnVentana m_progreso;

@@ -2,6 +2,7 @@
 
 #include "escritorio/mostrador.h"
 #include "platform/suite/preferencias_en_tabla.h"
+#include "platform/suite/windows/aspecto_de_suite.h"
 #include "run_context/principal.h"
 
 #include <cstdlib>
@@ -27,6 +28,7 @@ public:
     Programa(Aplicacion& aplicacion, const QString& carpetaPrograma, const QString& nombreCopia)
         : m_aplicacion{aplicacion}
         , m_entorno{datosDe(carpetaPrograma)}
+        , m_traductor{carpetaPrograma + u"/traducciones"_s, QLocale::system().uiLanguages()}
         , m_copia{creaCopiaUnica(nombreCopia)}
     {
         m_contexto.CarpetaPrograma = carpetaPrograma;
@@ -35,13 +37,9 @@ public:
 
     int corre()
     {
-        try {
-            if (m_principal.Main(*m_copia, [this] { muestraMenu(); }) == Principal::Inicio::OtraCopia)
-                return EXIT_SUCCESS;
-        } catch (const ErrorEjecucion& error) {
-            falla(error);
-        }
-        return Aplicacion::exec();
+        auto inicio = Principal::Inicio::EnMarcha;
+        m_aplicacion.intenta([&] { inicio = m_principal.Main(*m_copia, [this] { muestraMenu(); }); });
+        return inicio == Principal::Inicio::OtraCopia ? EXIT_SUCCESS : Aplicacion::exec();
     }
 
 private:
@@ -54,8 +52,10 @@ private:
                                             .tics = m_tics,
                                             .ObtenerList1 = [this] { return m_principal.ObtenerList1(); },
                                             .termina = [this] { termina(EXIT_SUCCESS); }});
-        m_mostrador->menu().carga();
-        m_mostrador->menu().show();
+        FrmListados& menu = m_mostrador->menu();
+        m_aspecto.ponPrincipal(&menu, menu.marcoExterior(), menu.marcoInterior());
+        menu.carga();
+        menu.show();
     }
 
     void falla(const ErrorEjecucion& error)
@@ -80,7 +80,9 @@ private:
     RelojSistema m_reloj;
     ConectorTiendaDsn m_conector;
     PreferenciasEnTabla m_preferencias;
-    AspectoNeutro m_aspecto;
+    PermisosEnTabla m_permisos;
+    TraductorCaptions m_traductor;
+    AspectoDeSuite m_aspecto{m_contexto, m_permisos, m_traductor};
     TicsDeReloj m_tics;
     std::unique_ptr<CopiaUnica> m_copia;
     Principal m_principal{m_contexto, m_conector, m_preferencias, m_reloj};

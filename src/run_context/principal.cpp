@@ -3,6 +3,7 @@
 #include "platform/database/recordset.h"
 #include "platform/runtime/conversiones.h"
 #include "platform/runtime/ruta.h"
+#include "platform/suite/apariencia.h"
 
 #include <QFileInfo>
 
@@ -11,9 +12,6 @@ using namespace Qt::StringLiterals;
 namespace kestrane {
 
 namespace {
-
-constexpr double AnchoPorDefecto = 15360;
-constexpr double AltoPorDefecto = 11085;
 
 /// The first record of a query, read field by field with the platform's conversions.
 class PrimeraFila
@@ -116,8 +114,8 @@ void Principal::LeerApariencia()
     m_contexto.Tema = m_preferencias.DarTema(tienda);
     m_contexto.AnchoVentana = m_preferencias.DarAncho(tienda);
     m_contexto.AltoVentana = m_preferencias.DarAlto(tienda);
-    m_contexto.AnchoDiseno = AnchoPorDefecto;
-    m_contexto.AltoDiseno = AltoPorDefecto;
+    m_contexto.AnchoDiseno = TamanoDeDiseno.ancho;
+    m_contexto.AltoDiseno = TamanoDeDiseno.alto;
     m_contexto.TamanoLetra = m_preferencias.DarLetra(tienda);
 }
 

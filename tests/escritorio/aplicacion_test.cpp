@@ -80,6 +80,13 @@ TEST_F(AplicacionTest, WhatIsNoErrorOfThePlatformIsToldWithoutANumber)
                                     u"0: El programa no puede seguir: índice."_s}));
 }
 
+TEST_F(AplicacionTest, AnErrorBeforeTheFirstEventIsToldTheSameWay)
+{
+    EXPECT_FALSE(laAplicacion().intenta([] { throw std::bad_alloc{}; }));
+    EXPECT_TRUE(laAplicacion().intenta([] {}));
+    EXPECT_EQ(errores, QStringList{u"0: No hay memoria suficiente."_s});
+}
+
 TEST_F(AplicacionTest, AnErrorWhileAnotherIsToldIsPassedOver)
 {
     alContarlo = [] {

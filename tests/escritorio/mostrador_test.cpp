@@ -2,6 +2,7 @@
 
 #include "apoyo/tienda_de_prueba.h"
 #include "pipeline/forms/tics_rapidos.h"
+#include "pipeline/hay_datos.h"
 #include "platform/suite/conector_tienda.h"
 #include "platform/suite/preferencias_en_tabla.h"
 
@@ -40,10 +41,17 @@ protected:
         ASSERT_NE(boton, nullptr);
         QTest::mouseClick(boton, Qt::LeftButton);
     }
-    /// Presses as soon as events are served.
-    void pulsaLuego(const QString& nombre)
+    /// Presses once, when events are drained behind a builder that has written its rows.
+    void pulsaTrasElConstructor(const QString& nombre)
     {
-        QTimer::singleShot(0, &m_mostrador.menu(), [this, nombre] { pulsa(nombre); });
+        auto* const vigia = new QTimer{&m_mostrador.menu()};
+        QObject::connect(vigia, &QTimer::timeout, vigia, [this, vigia, nombre] {
+            if (!HayDatos(m_contexto.ConexionListados))
+                return;
+            vigia->stop();
+            pulsa(nombre);
+        });
+        vigia->start(0);
     }
     /// Accepts the message boxes that come up, and keeps what they say.
     void aceptaAvisos()
@@ -108,6 +116,39 @@ TEST_F(MostradorTest, AListingWithoutRowsSaysSoAndOpensNothing)
     EXPECT_FALSE(hayParar());
 }
 
+TEST_F(MostradorTest, ListingsWithoutADialogAllGoFromTheirButtonToAPreview)
+{
+    m_tienda.ejecuta({u"insert into proveedores (codigo, nombre, borrar) values (1, 'Aqua', 0)"_s,
+                      u"insert into marcas (codigo, nombre) values (1, 'Nube')"_s});
+    for (const QString& nombre : {u"cmd_Generales8"_s, u"cmd_Generales9"_s, u"cmd_Generales10"_s}) {
+        const size_t antes = vistas();
+        pulsa(nombre);
+        EXPECT_EQ(vistas(), antes + 1) << nombre.toStdString();
+    }
+}
+
+TEST_F(MostradorTest, TheListingOfServicesGoesThroughItsDialog)
+{
+    m_tienda.ejecuta(u"insert into servicios (codigo, nombre, borrar, precio, seccion) values (1, 'Corte', 0, 12.5, 1)"_s);
+    QTimer::singleShot(0, &m_mostrador.menu(), [] {
+        auto* const dialogo = QApplication::activeModalWidget();
+        ASSERT_NE(dialogo, nullptr);
+        EXPECT_EQ(dialogo->objectName(), u"frmOrdenServicios"_s);
+        QTest::mouseClick(dialogo->findChild<QWidget*>(u"Command2"_s), Qt::LeftButton);
+    });
+    pulsa(u"cmd_Generales4"_s);
+    EXPECT_EQ(m_contexto.filtros.columnaOrden, u"Seccion"_s);
+    EXPECT_EQ(vistas(), 1U);
+}
+
+TEST_F(MostradorTest, AListingWhoseDialogIsLeftIsNotBuilt)
+{
+    QTimer::singleShot(0, &m_mostrador.menu(), [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
+    pulsa(u"cmd_Generales4"_s);
+    EXPECT_EQ(vistas(), 0U);
+    EXPECT_TRUE(m_avisos.isEmpty());
+}
+
 TEST_F(MostradorTest, AReportThatIsNotThereYetSaysSo)
 {
     aceptaAvisos();
@@ -135,7 +176,7 @@ TEST_F(MostradorTest, PreviewsStayOpenBesideEachOther)
 
 TEST_F(MostradorTest, APressWhileEventsAreDrainedRunsItsReportInsideTheOther)
 {
-    pulsaLuego(u"cmd_Generales9"_s);
+    pulsaTrasElConstructor(u"cmd_Generales9"_s);
     pulsa(u"cmd_Generales8"_s);
     EXPECT_EQ(vistas(), 2U);
     EXPECT_FALSE(hayParar());
@@ -149,7 +190,7 @@ TEST_F(MostradorTest, LeavingInsideARunningReportEndsTheProgramThereAndThen)
         vistasEntonces = vistas();
         pararEntonces = hayParar();
     };
-    pulsaLuego(u"cmd_Salir"_s);
+    pulsaTrasElConstructor(u"cmd_Salir"_s);
     pulsa(u"cmd_Generales8"_s);
     EXPECT_EQ(m_finales, 1);
     EXPECT_EQ(vistasEntonces, 0U);

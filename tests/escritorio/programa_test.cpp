@@ -121,6 +121,31 @@ TEST_F(ProgramaTest, AnErrorInsideAReportEndsTheRun)
     EXPECT_EXIT(corre(pulsa), testing::ExitedWithCode(1), "-2147217900 \\| .*seccion");
 }
 
+TEST_F(ProgramaTest, LeavingInsideARunningReportEndsTheProcessThere)
+{
+    m_tienda.ejecuta(u"insert into seccion (codigo, nombre, borrar) values (1, 'Peluquería', 0)"_s);
+    conTienda();
+    const auto pulsaYSale = [] {
+        QWidget* const abierto = menu();
+        if (!abierto)
+            return false;
+        auto* const vigia = new QTimer{abierto};
+        QObject::connect(vigia, &QTimer::timeout, abierto, [abierto] {
+            for (const QWidget* const ventana : QApplication::topLevelWidgets()) {
+                if (ventana->objectName() != u"frmParar" || !ventana->isVisible())
+                    continue;
+                std::fputs("en obra", stderr);
+                QTest::mouseClick(abierto->findChild<QWidget*>(u"cmd_Salir"_s), Qt::LeftButton);
+            }
+        });
+        vigia->start(0);
+        QTimer::singleShot(0, abierto,
+                           [abierto] { QTest::mouseClick(abierto->findChild<QWidget*>(u"cmd_Generales8"_s), Qt::LeftButton); });
+        return true;
+    };
+    EXPECT_EXIT(corre(pulsaYSale), testing::ExitedWithCode(0), "en obra");
+}
+
 TEST_F(ProgramaTest, ASecondCopyEndsAtOnceWithoutAWindow)
 {
     conTienda();

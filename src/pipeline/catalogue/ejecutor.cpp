@@ -55,8 +55,15 @@ bool Ejecutor::puedeEmpezar(const FilaCatalogo& fila) const
     const Dialogos& dialogos = m_pantalla.dialogos;
     if (!estaDisponible(fila) || (pideTienda(fila) && !dialogos.Existe(Dialogo::SelTienda)))
         return false;
+    if (seSaltaElDialogo(fila))
+        return true;
     const std::span<const Dialogo> suyos = fila.dialogos.lista();
     return std::all_of(suyos.begin(), suyos.end(), [&dialogos](Dialogo dialogo) { return dialogos.Existe(dialogo); });
+}
+
+bool Ejecutor::seSaltaElDialogo(const FilaCatalogo& fila) const
+{
+    return fila.marcas.testFlag(Marca::Hoy) && !m_contexto.PermiteListadoVariosDias;
 }
 
 bool Ejecutor::pideTienda(const FilaCatalogo& fila) const
@@ -69,7 +76,7 @@ bool Ejecutor::pideFiltros(const FilaCatalogo& fila)
 {
     if (fila.dialogos.cuantos == 0)
         return true;
-    if (fila.marcas.testFlag(Marca::Hoy) && !m_contexto.PermiteListadoVariosDias)
+    if (seSaltaElDialogo(fila))
         tomaElDiaDeHoy();
     else if (!muestraDialogos(fila))
         return false;

@@ -20,6 +20,7 @@ private:
     void ejecutaInforme(const FilaCatalogo& fila);
     void haz(const FilaCatalogo& fila);
     [[nodiscard]] bool puedeEmpezar(const FilaCatalogo& fila) const;
+    [[nodiscard]] bool seSaltaElDialogo(const FilaCatalogo& fila) const;
     [[nodiscard]] bool pideTienda(const FilaCatalogo& fila) const;
     [[nodiscard]] bool pideFiltros(const FilaCatalogo& fila);
     [[nodiscard]] bool muestraDialogos(const FilaCatalogo& fila);

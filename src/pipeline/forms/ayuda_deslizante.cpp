@@ -56,6 +56,11 @@ void AyudaDeslizante::ponArriba(double arriba)
     m_panel->move(m_panel->x(), static_cast<int>(std::lround(puntosDeTwips(arriba))));
 }
 
+void AyudaDeslizante::ponAlto()
+{
+    m_panel->resize(m_panel->width(), static_cast<int>(std::lround(puntosDeTwips(altoDeVentana() - topeDentro()))));
+}
+
 void AyudaDeslizante::ColocarAyuda()
 {
     const int margen = static_cast<int>(std::lround(puntosDeTwips(MargenDerecho)));
@@ -66,10 +71,12 @@ void AyudaDeslizante::ColocarAyuda()
 
 void AyudaDeslizante::abre(const QString& ruta)
 {
+    if (!m_haciaDentro)
+        m_focoAntes = m_ventana->focusWidget();
     m_haciaDentro = true;
     m_panel->ponRuta(ruta);
     ColocarAyuda();
-    m_panel->resize(m_panel->width(), static_cast<int>(std::lround(puntosDeTwips(altoDeVentana() - topeDentro()))));
+    ponAlto();
     m_panel->show();
     m_panel->raise();
     m_panel->abre();
@@ -79,6 +86,8 @@ void AyudaDeslizante::abre(const QString& ruta)
 void AyudaDeslizante::cierra()
 {
     m_haciaDentro = false;
+    if (m_focoAntes)
+        m_focoAntes->setFocus(Qt::OtherFocusReason);
     m_temporizador->start();
 }
 
@@ -99,7 +108,7 @@ void AyudaDeslizante::acomoda()
     const double arriba = m_arriba;
     ColocarAyuda();
     if (m_haciaDentro) {
-        m_panel->resize(m_panel->width(), static_cast<int>(std::lround(puntosDeTwips(altoDeVentana() - topeDentro()))));
+        ponAlto();
         ponArriba(quieta ? destino() : arriba);
     }
 }

@@ -2,6 +2,7 @@
 
 #include "platform/controls/help_page_viewer.h"
 
+#include <QPointer>
 #include <QTimer>
 
 namespace kestrane {
@@ -24,12 +25,13 @@ public:
     /// The form has another size: what stands still stands there anew.
     void acomoda();
 
-    [[nodiscard]] HelpPageViewer& panel() { return *m_panel; }
+    /// Whether the panel stands in the form, or is on its way there.
     [[nodiscard]] bool dentro() const { return m_haciaDentro; }
 
 private:
     void avanza();
     void ponArriba(double arriba);
+    void ponAlto();
     [[nodiscard]] double destino() const;
     [[nodiscard]] double altoDeVentana() const;
     [[nodiscard]] double topeDentro() const;
@@ -39,6 +41,7 @@ private:
     HelpPageViewer* m_panel;
     QTimer* m_temporizador;
     bool m_haciaDentro = false;
+    QPointer<QWidget> m_focoAntes;
     double m_arriba = 0; ///< of the panel: twips, so that steps of less than a point add up
 };
 

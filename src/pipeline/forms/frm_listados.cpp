@@ -91,17 +91,20 @@ void FrmListados::ponBandera()
     if (contexto.RutaBandera.isEmpty())
         return;
     m_bandera->setToolTip(contexto.NombreRegional);
-    const QPixmap bandera{rutaDeMaquina(contexto.RutaBandera)};
+    m_bandera->setAccessibleName(contexto.NombreRegional);
+    const QPixmap bandera{rutaDeMaquina(contexto.RutaBandera, contexto.CarpetaPrograma)};
     m_bandera->setVisible(!bandera.isNull());
     if (!bandera.isNull())
         m_bandera->setPixmap(bandera.scaled(m_bandera->maximumSize(), Qt::KeepAspectRatio, Qt::SmoothTransformation));
 }
 
-/// Over the group of the general listings, and never beyond the form's edges.
+/// Over the group of the general listings, and never beyond the edges: where there is little room one scrolls.
 void FrmListados::colocaAviso()
 {
     const QWidget* const generales = control(*this, u"Frame3");
     QWidget& lienzo = m_grupos->lienzo();
+    if (m_aviso->isVisible())
+        lienzo.resize(lienzo.width(), std::max(lienzo.height(), m_aviso->minimumSizeHint().height()));
     const QSize deseado = m_aviso->sizeHint().expandedTo(generales->size()).boundedTo(lienzo.size());
     m_aviso->resize(deseado);
     const QPoint lugar = generales->mapTo(&lienzo, QPoint{});
@@ -131,8 +134,25 @@ void FrmListados::cambiaTamano()
     ContextoEjecucion& contexto = m_servicios.contexto;
     contexto.AnchoDiseno = twipsDePuntos(width());
     contexto.AltoDiseno = twipsDePuntos(height());
-    if (m_servicios.preferencias.SiguienteTamano(contexto.ConexionTienda, contexto.AnchoVentana, contexto.AltoVentana))
+    if (isMaximized())
+        showNormal(); // whoever asks for a size wants to see it
+    if (m_servicios.preferencias.SiguienteTamano(contexto.ConexionTienda, contexto.AnchoVentana, contexto.AltoVentana)) {
         EscalarMe();
+        cabeEnPantalla();
+    }
+}
+
+/// A stored size may be that of another screen, on which the way out and the zoom were in reach.
+void FrmListados::cabeEnPantalla()
+{
+    if (isMaximized() || isFullScreen())
+        return;
+    const QRect libre = screen()->availableGeometry();
+    const QSize marco = frameGeometry().size() - geometry().size();
+    resize(size().boundedTo(libre.size() - marco));
+    const QRect dentro = frameGeometry();
+    move(std::clamp(dentro.x(), libre.x(), std::max(libre.x(), libre.right() + 1 - dentro.width())),
+         std::clamp(dentro.y(), libre.y(), std::max(libre.y(), libre.bottom() + 1 - dentro.height())));
 }
 
 void FrmListados::cambiaLetra()
@@ -208,14 +228,26 @@ void FrmListados::Haz(AccionMenu accion)
 
 void FrmListados::MuestraInfo()
 {
+    colocaInfo();
     m_info->show();
+    m_info->raise();
     repaint();
 }
 
 void FrmListados::tomaEtiquetas()
 {
     m_servicios.contexto.filtros.etiquetas = m_aviso->lee();
+    cierraAviso();
+}
+
+/// The focus goes back to the button that had opened the panel.
+void FrmListados::cierraAviso()
+{
+    if (!m_aviso->isVisible())
+        return;
     m_aviso->hide();
+    control(*this, u"cmd_Generales12")->setFocus(Qt::OtherFocusReason);
+    m_grupos->reparte();
 }
 
 void FrmListados::closeEvent(QCloseEvent* evento)
@@ -228,6 +260,30 @@ void FrmListados::resizeEvent(QResizeEvent* evento)
 {
     QWidget::resizeEvent(evento);
     m_ayuda->acomoda();
+    colocaInfo();
+}
+
+void FrmListados::colocaInfo()
+{
+    const int alto = m_info->sizeHint().height() + LadoTactil / 2;
+    m_info->setGeometry(0, height() - alto, width(), alto);
+}
+
+void FrmListados::showEvent(QShowEvent* evento)
+{
+    QWidget::showEvent(evento);
+    if (!evento->spontaneous())
+        cabeEnPantalla();
+}
+
+bool FrmListados::focusNextPrevChild(bool siguiente)
+{
+    const QWidget* const desde = focusWidget();
+    while (QWidget::focusNextPrevChild(siguiente)) {
+        if (focusWidget() == desde || !estaTapado(*focusWidget()))
+            return true;
+    }
+    return false;
 }
 
 } // namespace kestrane

@@ -69,6 +69,9 @@ public:
 protected:
     void closeEvent(QCloseEvent* evento) override;
     void resizeEvent(QResizeEvent* evento) override;
+    void showEvent(QShowEvent* evento) override;
+    /// Passes over what the panel of client labels or the help covers.
+    bool focusNextPrevChild(bool siguiente) override;
 
 private:
     // The form as it is designed.
@@ -77,6 +80,7 @@ private:
     [[nodiscard]] QToolButton* zona(const QString& objeto, const QString& nombre, void (FrmListados::*accion)());
     [[nodiscard]] QToolButton* ayuda();
     void montaGrupos();
+    void montaInfo();
     void montaSinGrupo();
     [[nodiscard]] BotonMenu* boton(const catalogue::FilaCatalogo& fila, QWidget* padre);
     void atajos();
@@ -87,6 +91,9 @@ private:
     void ponBandera();
     void ponEmpresa();
     void colocaAviso();
+    void cierraAviso();
+    void colocaInfo();
+    void cabeEnPantalla();
     void EscalarMe();
     void cambiaTamano();
     void cambiaLetra();
@@ -97,16 +104,13 @@ private:
 
     ServiciosMenu m_servicios;
     QString m_colorResalte; ///< decimal text
-    QFrame* m_frame8 = nullptr;
     QWidget* m_cuerpo = nullptr;
-    QFrame* m_separacion = nullptr;
     PanelTarjetas* m_grupos = nullptr;
     QLabel* m_bandera = nullptr;
     QLabel* m_empresa = nullptr;
     QLabel* m_info = nullptr;
     PanelAviso* m_aviso = nullptr;
     AyudaDeslizante* m_ayuda = nullptr;
-    QTimer* m_tmrUtil = nullptr;
 };
 
 } // namespace kestrane

@@ -19,7 +19,6 @@ using catalogue::Grupo;
 
 namespace {
 
-constexpr TamanoVentana TamanoDeDiseno{15360, 11085};
 constexpr auto TextoInfo = "Este listado puede tardar varios minutos espere ..."_L1;
 
 QLabel* rotulo(const QString& objeto, const QString& texto, QWidget* padre)
@@ -36,7 +35,6 @@ FrmListados::FrmListados(ServiciosMenu servicios) : m_servicios{std::move(servic
     setObjectName(u"frmListados"_s);
     setWindowTitle(u"Listados"_s);
     resize(static_cast<int>(puntosDeTwips(TamanoDeDiseno.ancho)), static_cast<int>(puntosDeTwips(TamanoDeDiseno.alto)));
-    setMinimumSize(480, 360);
     monta();
     atajos();
 }
@@ -46,31 +44,38 @@ void FrmListados::monta()
     m_cuerpo = new QWidget{this};
     m_cuerpo->setObjectName(u"Frame4"_s);
     m_grupos = new PanelTarjetas{u"frGrupos"_s, m_cuerpo};
-    m_ayuda = new AyudaDeslizante{this, m_separacion = new QFrame{m_cuerpo}};
     montaGrupos();
     montaSinGrupo();
-    m_separacion->setObjectName(u"fr_SeparacionH1"_s);
-    m_separacion->setFrameShape(QFrame::HLine);
-    m_separacion->setFixedHeight(2);
-    m_info = rotulo(u"lblInfo"_s, TextoInfo, m_cuerpo);
-    m_info->setAlignment(Qt::AlignCenter);
-    m_info->setMinimumHeight(LadoTactil);
-    m_info->hide();
+    auto* separacion = new QFrame{m_cuerpo};
+    separacion->setObjectName(u"fr_SeparacionH1"_s);
+    separacion->setFrameShape(QFrame::HLine);
+    separacion->setFixedHeight(2);
     auto* interior = new QVBoxLayout{m_cuerpo};
     interior->setContentsMargins({});
     interior->setSpacing(0);
-    interior->addWidget(m_separacion);
-    interior->addWidget(m_info);
+    interior->addWidget(separacion);
     interior->addWidget(m_grupos, 1);
     auto* columna = new QVBoxLayout{this};
     columna->setContentsMargins({});
     columna->setSpacing(0);
-    columna->addWidget(m_frame8 = cabecera());
+    columna->addWidget(cabecera());
     columna->addWidget(m_cuerpo, 1);
-    m_tmrUtil = new QTimer{this}; // nothing waits for it
-    m_tmrUtil->setObjectName(u"tmrUtil"_s);
-    m_tmrUtil->setInterval(1000ms);
+    montaInfo();
+    m_ayuda = new AyudaDeslizante{this, separacion};
+    auto* util = new QTimer{this}; // nothing waits for it
+    util->setObjectName(u"tmrUtil"_s);
+    util->setInterval(1000ms);
     ordenDeTeclado();
+}
+
+/// Over the lower edge, so that nothing moves when it comes and goes.
+void FrmListados::montaInfo()
+{
+    m_info = rotulo(u"lblInfo"_s, TextoInfo, this);
+    m_info->setAlignment(Qt::AlignCenter);
+    m_info->setAutoFillBackground(true);
+    m_info->setProperty("textoAviso", true);
+    m_info->hide();
 }
 
 QFrame* FrmListados::cabecera()
@@ -79,9 +84,9 @@ QFrame* FrmListados::cabecera()
     marco->setObjectName(u"Frame8"_s);
     auto* titulo = rotulo(u"lblTitulo"_s, u"SELECCIONE SU OPCION"_s, marco);
     titulo->setProperty("letraRelativa", 1.4);
+    titulo->setMinimumWidth(1); // rather cut short than a window that no screen holds
     m_bandera = rotulo(u"Bandera"_s, {}, marco);
     m_bandera->setMaximumSize(60, 40);
-    m_bandera->setAccessibleName(u"Bandera"_s);
     m_empresa = rotulo(u"lblEmpresa"_s, {}, marco);
     m_empresa->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto* fila = new QHBoxLayout{marco};
@@ -135,12 +140,13 @@ void FrmListados::montaGrupos()
         m_grupos->anade(tarjeta);
     }
     findChild<GrupoBotones*>(u"Frame5"_s)->zona().setObjectName(u"frBotVentas"_s);
+    findChild<GrupoBotones*>(u"fr_TallaColor"_s)->setAccessibleName(u"Tallas y colores"_s); // it has no title
 }
 
 void FrmListados::montaSinGrupo()
 {
     m_aviso = new PanelAviso{boton(*catalogue::busca(u"Command10"), this), &m_grupos->lienzo()};
-    connect(m_aviso, &PanelAviso::dejado, m_aviso, &QWidget::hide);
+    connect(m_aviso, &PanelAviso::dejado, this, &FrmListados::cierraAviso);
     connect(m_grupos, &PanelTarjetas::repartido, this, &FrmListados::colocaAviso);
     for (const FilaCatalogo& fila : catalogue::catalogo()) {
         if (fila.grupo == Grupo::Ninguno && fila.clase == catalogue::Clase::SinAccion)
@@ -161,6 +167,8 @@ void FrmListados::atajos()
     }
     auto* ayuda = new QShortcut{QKeySequence{Qt::Key_F1}, this};
     connect(ayuda, &QShortcut::activated, this, [this] { Haz(AccionMenu::Ayuda); });
+    auto* deja = new QShortcut{QKeySequence{Qt::Key_Escape}, this};
+    connect(deja, &QShortcut::activated, this, [this] { m_ayuda->dentro() ? m_ayuda->cierra() : cierraAviso(); });
 }
 
 void FrmListados::enfocaGrupo(int cual)

@@ -51,7 +51,9 @@ PanelAviso::PanelAviso(BotonMenu* continuar, QWidget* padre) : QFrame{padre}
     setObjectName(u"frAviso"_s);
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
+    setProperty("tarjeta", true);
     monta(continuar);
+    ordenDeTeclado(continuar);
     hide();
 }
 
@@ -60,6 +62,7 @@ QRadioButton* PanelAviso::opcion(const QString& objeto, const QString& leyenda, 
     auto* nueva = new QRadioButton{leyenda, padre};
     nueva->setObjectName(objeto);
     nueva->setMinimumHeight(LadoTactil);
+    nueva->setBackgroundRole(QPalette::Window);
     nueva->setAutoFillBackground(true);
     return nueva;
 }
@@ -91,19 +94,26 @@ void PanelAviso::monta(BotonMenu* continuar)
     m_textoCPostal = texto(u"txtCPostal"_s, u"Codigo Postal"_s, m_frame13);
     elecciones->addWidget(m_todos);
     elecciones->addWidget(fila(u"Frameb"_s, m_cPostal, m_textoCPostal));
-    QFrame* const consumo =
-        cifra(u"Frame16"_s, m_textoConsumo, u"txtConsumo"_s, m_mayorConsumo, u"OptMayorConsumo"_s, u"OptMenoConsumo"_s);
+    QFrame* const consumo = cifra(u"Frame16"_s, m_textoConsumo, u"txtConsumo"_s, m_mayorConsumo, u"OptMayorConsumo"_s,
+                                  u"OptMenoConsumo"_s, m_consumo->text());
     elecciones->addWidget(fila(u"Framec"_s, m_consumo, consumo));
     QFrame* const cumple = fechas();
     elecciones->addWidget(fila(u"Framed"_s, m_cumple, cumple));
-    QFrame* const visitas =
-        cifra(u"Frame14"_s, m_textoVisitas, u"txtValVisitas"_s, m_mayorVisitas, u"OptMayorVisitas"_s, u"optMenoVisitas"_s);
+    QFrame* const visitas = cifra(u"Frame14"_s, m_textoVisitas, u"txtValVisitas"_s, m_mayorVisitas, u"OptMayorVisitas"_s,
+                                  u"optMenoVisitas"_s, m_visitas->text());
     elecciones->addWidget(fila(u"Framee"_s, m_visitas, visitas));
+    // A frame is of use with its own option alone: it goes dark when another is chosen, too.
+    elecciones->addStretch(1);
     for (const auto& [quien, detalle] : {std::pair{m_consumo, consumo}, {m_cumple, cumple}, {m_visitas, visitas}}) {
         detalle->setEnabled(false);
         connect(quien, &QRadioButton::toggled, detalle, &QWidget::setEnabled);
     }
 
+    montaPie(continuar);
+}
+
+void PanelAviso::montaPie(BotonMenu* continuar)
+{
     auto* interior = new QVBoxLayout{m_frame12};
     interior->setContentsMargins(8, 8, 8, 8);
     interior->addWidget(m_frame13);
@@ -123,6 +133,21 @@ void PanelAviso::monta(BotonMenu* continuar)
     columna->addLayout(pie);
 }
 
+/// From the first choice down to the way out.
+void PanelAviso::ordenDeTeclado(QWidget* continuar)
+{
+    QWidget* anterior = m_todos;
+    for (const QString& nombre : {u"OptCPostal"_s, u"txtCPostal"_s, u"optConsumo"_s, u"OptMayorConsumo"_s, u"OptMenoConsumo"_s,
+                                  u"txtConsumo"_s, u"optCumple"_s, u"desdeCumple"_s, u"HastaCumple"_s, u"optVisitas"_s,
+                                  u"OptMayorVisitas"_s, u"optMenoVisitas"_s, u"txtValVisitas"_s}) {
+        auto* const siguiente = findChild<QWidget*>(nombre);
+        setTabOrder(anterior, siguiente);
+        anterior = siguiente;
+    }
+    setTabOrder(anterior, continuar);
+    setTabOrder(continuar, findChild<QWidget*>(u"cierraAviso"_s));
+}
+
 /// A choice with what belongs to it beside.
 QFrame* PanelAviso::fila(const QString& objeto, QWidget* eleccion, QWidget* detalle)
 {
@@ -136,14 +161,14 @@ QFrame* PanelAviso::fila(const QString& objeto, QWidget* eleccion, QWidget* deta
 
 /// A figure, and whether clients above or below it are meant.
 QFrame* PanelAviso::cifra(const QString& objeto, QLineEdit*& figura, const QString& nombreTexto, QRadioButton*& mayor,
-                          const QString& nombreMayor, const QString& nombreMenor)
+                          const QString& nombreMayor, const QString& nombreMenor, const QString& que)
 {
     QFrame* const nuevo = marco(objeto, m_frame13);
     mayor = opcion(nombreMayor, u"Mayor que"_s, nuevo);
     QRadioButton* const menor = opcion(nombreMenor, u"Menor que"_s, nuevo);
     mayor->setChecked(true);
     juntas(nuevo, {mayor, menor});
-    figura = texto(nombreTexto, u"Cifra"_s, nuevo);
+    figura = texto(nombreTexto, que, nuevo);
     auto* lados = new QHBoxLayout{nuevo};
     lados->setContentsMargins({});
     lados->addWidget(mayor);

@@ -27,9 +27,6 @@ public:
     /// What the controls hold now.
     [[nodiscard]] EtiquetasClientes lee() const;
 
-    /// The frame of the choices, which is marked when another program asks for them.
-    [[nodiscard]] QWidget& eleccion() { return *m_frame12; }
-
 signals:
     /// The operator would rather not.
     void dejado();
@@ -39,10 +36,12 @@ protected:
 
 private:
     void monta(BotonMenu* continuar);
+    void montaPie(BotonMenu* continuar);
+    void ordenDeTeclado(QWidget* continuar);
     [[nodiscard]] QRadioButton* opcion(const QString& objeto, const QString& leyenda, QWidget* padre);
     [[nodiscard]] QFrame* marco(const QString& objeto, QWidget* padre);
     [[nodiscard]] QFrame* cifra(const QString& objeto, QLineEdit*& texto, const QString& nombreTexto, QRadioButton*& mayor,
-                                const QString& nombreMayor, const QString& nombreMenor);
+                                const QString& nombreMayor, const QString& nombreMenor, const QString& que);
     [[nodiscard]] QFrame* fechas();
     [[nodiscard]] QFrame* fila(const QString& objeto, QWidget* eleccion, QWidget* detalle);
 

@@ -14,7 +14,6 @@ namespace {
 
 constexpr double MargenIzquierdo = 50; ///< twips, as the next
 constexpr double MargenSuperior = 330;
-constexpr TamanoVentana TamanoDeDiseno{15360, 11085};
 
 QLabel* rotulo(const QString& nombre, const QString& texto, QWidget* padre)
 {

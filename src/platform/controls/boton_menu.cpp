@@ -45,6 +45,14 @@ std::optional<int> lejania(const QPoint& desde, const QPoint& hasta, const QPoin
 
 } // namespace
 
+bool estaTapado(const QWidget& control)
+{
+    const QWidget* const ventana = control.window();
+    const QPoint centro = control.mapTo(ventana, control.rect().center());
+    const QWidget* const arriba = ventana->childAt(centro);
+    return arriba && arriba != &control && !control.isAncestorOf(arriba);
+}
+
 int vecino(const QRect& desde, const QList<QRect>& candidatos, int tecla)
 {
     int elegido = -1;
@@ -62,7 +70,7 @@ int vecino(const QRect& desde, const QList<QRect>& candidatos, int tecla)
 BotonMenu::BotonMenu(const QString& objeto, const QString& leyenda, QWidget* padre) : QPushButton{leyenda, padre}
 {
     setObjectName(objeto);
-    setAutoDefault(true); // Enter presses it, as the space bar does
+    setAutoDefault(false); // a style may paint a default button in colours of its own
     QSizePolicy medidas{QSizePolicy::Expanding, QSizePolicy::Expanding};
     medidas.setHeightForWidth(true);
     setSizePolicy(medidas);
@@ -107,7 +115,9 @@ void BotonMenu::paintEvent(QPaintEvent*)
 
 void BotonMenu::keyPressEvent(QKeyEvent* evento)
 {
-    if (direccion(evento->key()).isNull())
+    if (evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter)
+        click();
+    else if (direccion(evento->key()).isNull())
         QPushButton::keyPressEvent(evento);
     else
         salta(evento->key());
@@ -118,7 +128,7 @@ void BotonMenu::salta(int tecla)
     QList<BotonMenu*> otros;
     QList<QRect> cajas;
     for (BotonMenu* const otro : window()->findChildren<BotonMenu*>()) {
-        if (otro == this || !otro->isVisible() || !otro->isEnabled())
+        if (otro == this || !otro->isVisible() || !otro->isEnabled() || estaTapado(*otro))
             continue;
         otros += otro;
         cajas += QRect{otro->mapTo(window(), QPoint{}), otro->size()};

@@ -31,6 +31,9 @@ private:
     void salta(int tecla);
 };
 
+/// Whether something else of its window stands over the middle of the control. One that is scrolled out of sight is not covered.
+[[nodiscard]] bool estaTapado(const QWidget& control);
+
 /// The place among `candidatos` that an arrow key leads to from `desde`: the nearest whose centre lies that way, one in the same
 /// row or column before others. -1 when there is none.
 [[nodiscard]] int vecino(const QRect& desde, const QList<QRect>& candidatos, int tecla);

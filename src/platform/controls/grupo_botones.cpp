@@ -29,8 +29,7 @@ GrupoBotones::GrupoBotones(const QString& objeto, const QString& titulo, QWidget
 {
     setObjectName(objeto);
     setAccessibleName(titulo);
-    m_titulo->setProperty("letraRelativa", 1.1);
-    m_titulo->setProperty("negrita", true);
+    setProperty("tarjeta", true);
     QFont negrita = m_titulo->font();
     negrita.setBold(true);
     m_titulo->setFont(negrita);

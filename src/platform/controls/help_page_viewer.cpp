@@ -20,6 +20,7 @@ HelpPageViewer::HelpPageViewer(const QString& objeto, QWidget* padre)
     setObjectName(objeto);
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
+    setProperty("tarjeta", true);
     auto* titulo = new QLabel{u"Ayuda"_s, this};
     titulo->setProperty("letraRelativa", 1.2);
     m_cierre->setObjectName(u"cierreAyuda"_s);

@@ -2,8 +2,8 @@
 
 #include "platform/controls/reparto_tarjetas.h"
 
+#include <QApplication>
 #include <QEvent>
-#include <QTimer>
 
 namespace kestrane {
 
@@ -22,6 +22,10 @@ PanelTarjetas::PanelTarjetas(const QString& objeto, QWidget* padre) : QScrollAre
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::NoFocus);
     setWidget(m_lienzo);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* ahora) {
+        if (ahora && m_lienzo->isAncestorOf(ahora))
+            ensureWidgetVisible(ahora, Margen, Margen);
+    });
 }
 
 void PanelTarjetas::anade(GrupoBotones* tarjeta)
@@ -38,7 +42,7 @@ void PanelTarjetas::pideReparto()
     if (m_pedido)
         return;
     m_pedido = true;
-    QTimer::singleShot(0, this, &PanelTarjetas::reparte);
+    QMetaObject::invokeMethod(this, &PanelTarjetas::reparte, Qt::QueuedConnection);
 }
 
 int PanelTarjetas::anchoDeColumna() const
@@ -84,14 +88,6 @@ bool PanelTarjetas::eventFilter(QObject* vigilado, QEvent* evento)
     if (seVeOtraCosa && m_tarjetas.contains(vigilado))
         pideReparto();
     return QScrollArea::eventFilter(vigilado, evento);
-}
-
-bool PanelTarjetas::focusNextPrevChild(bool siguiente)
-{
-    const bool hubo = QScrollArea::focusNextPrevChild(siguiente);
-    if (QWidget* const con = window()->focusWidget(); con && m_lienzo->isAncestorOf(con))
-        ensureWidgetVisible(con, Margen, Margen);
-    return hubo;
 }
 
 } // namespace kestrane

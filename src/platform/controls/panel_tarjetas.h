@@ -31,7 +31,6 @@ signals:
 protected:
     void resizeEvent(QResizeEvent* evento) override;
     bool eventFilter(QObject* vigilado, QEvent* evento) override;
-    bool focusNextPrevChild(bool siguiente) override;
 
 private:
     void pideReparto();

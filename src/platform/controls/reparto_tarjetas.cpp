@@ -1,8 +1,8 @@
 #include "platform/controls/reparto_tarjetas.h"
 
 #include <algorithm>
+#include <array>
 #include <limits>
-#include <optional>
 
 namespace kestrane {
 
@@ -63,6 +63,8 @@ public:
     [[nodiscard]] int alto() const { return m_alto; }
 
 private:
+    using Suelo = std::array<int, MasColumnas>; ///< of each column, how far down it is taken
+
     [[nodiscard]] int anchoDe(int tramo) const { return tramo * m_ancho + (tramo - 1) * m_separacion; }
     /// The columns part the whole width, so that some are a point wider than others.
     [[nodiscard]] int izquierda(int columna) const { return columna * (m_lugar.width() + m_separacion) / m_columnas; }
@@ -82,26 +84,27 @@ private:
 
     void compara(const std::vector<int>& tramos)
     {
-        std::vector<int> suelo(static_cast<size_t>(m_columnas), 0);
-        std::vector<SitioTarjeta> sitios;
+        Suelo suelo{};
+        m_probados.clear();
         double cubierto = 0;
         for (size_t i = 0; i < tramos.size(); ++i) {
-            sitios.push_back(pon(suelo, tramos[i], m_altos[i][static_cast<size_t>(tramos[i] - 1)]));
-            cubierto += static_cast<double>(sitios.back().caja.width()) * (sitios.back().caja.height() + m_separacion);
+            m_probados.push_back(pon(suelo, tramos[i], m_altos[i][static_cast<size_t>(tramos[i] - 1)]));
+            const QRect& caja = m_probados.back().caja;
+            cubierto += static_cast<double>(caja.width()) * (caja.height() + m_separacion);
         }
         const int alto = *std::max_element(suelo.begin(), suelo.end()) - m_separacion;
         double nota = notaDe(alto, cubierto);
         if (nota < m_nota)
-            nota += PesoHuecos * huecos(sitios, alto);
+            nota += PesoHuecos * huecos(m_probados, alto);
         if (nota >= m_nota)
             return;
         m_nota = nota;
         m_alto = alto;
-        m_sitios = std::move(sitios);
+        m_sitios = m_probados;
     }
 
     /// Puts a card where it stands highest, more to the left before more to the right.
-    [[nodiscard]] SitioTarjeta pon(std::vector<int>& suelo, int tramo, int alto) const
+    [[nodiscard]] SitioTarjeta pon(Suelo& suelo, int tramo, int alto) const
     {
         int donde = 0;
         int arriba = std::numeric_limits<int>::max();
@@ -150,19 +153,26 @@ private:
     std::vector<std::vector<int>> m_altos; ///< of each card with 1, 2, ... columns
     double m_nota = std::numeric_limits<double>::max();
     int m_alto = 0;
+    std::vector<SitioTarjeta> m_probados; ///< by the choice of the moment
     std::vector<SitioTarjeta> m_sitios;
 };
 
-std::optional<Intento> mejor(std::span<const Tarjeta> tarjetas, QSize lugar, const MedidasReparto& medidas)
+Intento probado(std::span<const Tarjeta> tarjetas, QSize lugar, const MedidasReparto& medidas, int columnas)
 {
-    std::optional<Intento> elegido;
-    for (int columnas = 1; columnas <= MasColumnas; ++columnas) {
+    Intento intento{tarjetas, lugar, medidas, columnas};
+    intento.prueba();
+    return intento;
+}
+
+Intento mejor(std::span<const Tarjeta> tarjetas, QSize lugar, const MedidasReparto& medidas)
+{
+    Intento elegido = probado(tarjetas, lugar, medidas, 1);
+    for (int columnas = 2; columnas <= MasColumnas; ++columnas) {
         const int ancho = (lugar.width() - (columnas - 1) * medidas.separacion) / columnas;
-        if (columnas > 1 && ancho < medidas.anchoColumna)
+        if (ancho < medidas.anchoColumna)
             break;
-        Intento intento{tarjetas, lugar, medidas, columnas};
-        intento.prueba();
-        if (!elegido || intento.nota() < elegido->nota())
+        Intento intento = probado(tarjetas, lugar, medidas, columnas);
+        if (intento.nota() < elegido.nota())
             elegido = std::move(intento);
     }
     return elegido;
@@ -190,9 +200,9 @@ std::vector<SitioTarjeta> reparteTarjetas(std::span<const Tarjeta> tarjetas, QSi
     std::vector<SitioTarjeta> sitios(tarjetas.size(), SitioTarjeta{{}, 0});
     if (llenas.empty())
         return sitios;
-    const std::optional<Intento> intento = mejor(llenas, lugar, medidas);
-    std::vector<SitioTarjeta> suyos = intento->sitios();
-    estira(suyos, intento->alto(), lugar.height(), medidas);
+    const Intento intento = mejor(llenas, lugar, medidas);
+    std::vector<SitioTarjeta> suyos = intento.sitios();
+    estira(suyos, intento.alto(), lugar.height(), medidas);
     auto siguiente = suyos.begin();
     for (size_t i = 0; i < tarjetas.size(); ++i) {
         if (tarjetas[i].columnas > 0)

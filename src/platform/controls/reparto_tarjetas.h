@@ -29,7 +29,7 @@ struct MedidasReparto
 {
     int anchoColumna = 160; ///< the least
     int separacion = 10;
-    double estira = 1.5; ///< at most so many times its height a card becomes to fill what is left
+    double estira = 2; ///< at most so many times its height a card becomes to fill what is left
 };
 
 /// Lays cards over `lugar`: columns of equal width, each card over one or several of them, in the order given from the upper left

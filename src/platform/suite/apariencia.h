@@ -26,6 +26,9 @@ struct TamanoVentana
     friend bool operator==(const TamanoVentana&, const TamanoVentana&) = default;
 };
 
+/// The size for which every window is laid out.
+inline constexpr TamanoVentana TamanoDeDiseno{15360, 11085};
+
 /// What the operator goes through, one step at a time and from the last back to the first. All ascend.
 inline constexpr std::array<qint32, 4> Temas{1, 2, 3, 4};
 inline constexpr std::array<qint32, 4> Letras{9, 10, 12, 14};

@@ -38,6 +38,15 @@ TEST_F(EjecutorTest, SoDoesARowOfWhichADialogDoesNotExist)
     EXPECT_EQ(ejecuta(u"Command7"), NoEsta);
 }
 
+TEST_F(EjecutorTest, ADialogThatIsSkippedIsNotMissed)
+{
+    m_pantalla.faltan = {Dialogo::Fechas};
+    m_contexto.PermiteListadoVariosDias = false;
+    EXPECT_EQ(ejecuta(u"cmd_Caja1").constFirst(), u"repinta"_s);
+    m_contexto.PermiteListadoVariosDias = true;
+    EXPECT_EQ(ejecuta(u"cmd_Caja1"), QStringList{u"Listados: Este listado todavía no está disponible."_s});
+}
+
 TEST_F(EjecutorTest, TheDialogOfTheStoresIsMissedOnTheServerAlone)
 {
     m_pantalla.faltan = {Dialogo::SelTienda};

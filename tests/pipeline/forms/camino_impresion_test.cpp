@@ -4,6 +4,7 @@
 #include "pipeline/forms/frm_esperar.h"
 #include "pipeline/forms/impresoras_del_sistema.h"
 #include "pipeline/forms/mensajes_en_ventana.h"
+#include "pipeline/forms/tics_rapidos.h"
 #include "platform/printing/servidor_cups.h"
 #include "platform/report/preview/impresion_del_sistema.h"
 
@@ -28,22 +29,6 @@ constexpr QByteArrayView Layout = R"(<?xml version="1.0" encoding="UTF-8"?>
   <detalle><banda alto="60"><texto x="0" y="0" ancho="100" alto="6" valor="texto1"/></banda></detalle>
 </informe>
 )";
-
-/// Ticks as fast as the event loop turns.
-class TicsRapidos final : public FuenteDeTics
-{
-public:
-    void empieza(QWidget& ventana, const std::function<void()>& tic) override
-    {
-        m_temporizador = std::make_unique<QTimer>();
-        QObject::connect(m_temporizador.get(), &QTimer::timeout, &ventana, tic);
-        m_temporizador->start(0);
-    }
-    void para() override { m_temporizador->stop(); }
-
-private:
-    std::unique_ptr<QTimer> m_temporizador;
-};
 
 /// From rows to the device of a print queue, with nothing in between but the time to wait that is not real.
 class CaminoImpresion : public testing::Test
@@ -87,7 +72,7 @@ protected:
     prueba::ServidorCups servidor;
     ContextoEjecucion contexto{tienda.entorno()};
     prueba::AspectoAnotado aspecto;
-    TicsRapidos tics;
+    prueba::TicsRapidos tics;
     report::ImpresionDelSistema impresion;
     report::VentanasVista ventanas{{.impresion = &impresion, .eligeFichero = {}}};
     ControlReportVista control{ventanas, abreDocumento(tienda.entorno(), {})};

@@ -77,6 +77,17 @@ TEST_F(MenuTest, TheFlagStandsAtTheRightEdgeOfItsFrameWithItsName)
     EXPECT_EQ(bandera.geometry().right(), control(u"Frame8"_s).contentsRect().right() - 12); // its margin
 }
 
+TEST_F(MenuTest, AFlagMayLieInTheProgramsFolder)
+{
+    QPixmap dibujo{30, 20};
+    dibujo.fill(Qt::red);
+    ASSERT_TRUE(dibujo.save(m_tienda.carpeta() + u"/bandera.png"_s));
+    m_contexto.CarpetaPrograma = m_tienda.carpeta();
+    m_contexto.RutaBandera = u"bandera.png"_s;
+    abre();
+    EXPECT_FALSE(control<QLabel>(u"Bandera"_s).pixmap().isNull());
+}
+
 TEST_F(MenuTest, APictureThatIsNoneLeavesTheFlagOutOfSight)
 {
     m_contexto.RutaBandera = m_tienda.carpeta() + u"/rota.png"_s;
@@ -91,13 +102,23 @@ TEST_F(MenuTest, APictureThatIsNoneLeavesTheFlagOutOfSight)
 TEST_F(MenuTest, InnerFramesAndOptionsTakeTheirColourFromWhatTheyStandIn)
 {
     construye();
-    QPalette verde;
-    verde.setColor(QPalette::Window, Qt::green);
-    control(u"frAviso"_s).setPalette(verde);
+    const auto pinta = [this](const QString& nombre, const QColor& color) {
+        QPalette colores = control(nombre).palette();
+        colores.setColor(control(nombre).backgroundRole(), color);
+        control(nombre).setPalette(colores);
+    };
+    const QStringList interiores{
+        u"Frame12"_s,         u"Frameb"_s,         u"Framec"_s,    u"Framed"_s,     u"Framee"_s,          u"optTodos"_s,
+        u"OptCPostal"_s,      u"optConsumo"_s,     u"optCumple"_s, u"optVisitas"_s, u"OptMayorConsumo"_s, u"OptMenoConsumo"_s,
+        u"OptMayorVisitas"_s, u"optMenoVisitas"_s, u"Frame13"_s,   u"Frame14"_s,    u"Frame15"_s,         u"Frame16"_s};
+    for (const QString& nombre : interiores)
+        pinta(nombre, Qt::red);
+    pinta(u"frAviso"_s, Qt::green);
+    pinta(u"Frame5"_s, Qt::blue);
     m_menu->carga();
-    for (const QString& nombre : {u"Frame12"_s, u"Frameb"_s, u"Framee"_s, u"optTodos"_s, u"OptMenoConsumo"_s, u"Frame13"_s,
-                                  u"Frame14"_s, u"Frame15"_s, u"Frame16"_s})
+    for (const QString& nombre : interiores)
         EXPECT_EQ(fondo(control(nombre)), QColor(Qt::green)) << nombre.toStdString();
+    EXPECT_EQ(fondo(control(u"frBotVentas"_s)), QColor(Qt::blue));
     EXPECT_EQ(fondo(control(u"cmdListados"_s)), QColor(255, 0, 0));
 }
 
@@ -181,12 +202,15 @@ TEST_F(MenuTest, WindowsThatAreNotThereYetSaySo)
     EXPECT_EQ(m_mensajes.dichos, QStringList(3, u"Listados: Este listado todavía no está disponible."_s));
 }
 
-TEST_F(MenuTest, TheNoticeOfALongReportIsShownAndHidden)
+TEST_F(MenuTest, TheNoticeOfALongReportIsShownAndHiddenAndMovesNothing)
 {
     abre();
+    const QPoint lugar = control(u"cmd_Caja1"_s).mapToGlobal(QPoint{});
     EXPECT_FALSE(control(u"lblInfo"_s).isVisible());
     m_menu->MuestraInfo();
+    asienta();
     EXPECT_TRUE(control(u"lblInfo"_s).isVisible());
+    EXPECT_EQ(control(u"cmd_Caja1"_s).mapToGlobal(QPoint{}), lugar);
     m_menu->OcultaInfo();
     EXPECT_FALSE(control(u"lblInfo"_s).isVisible());
 }

@@ -141,5 +141,23 @@ TEST_F(PanelAvisoTest, EscapeAndItsCloseButtonLeaveItWithoutAReport)
     EXPECT_TRUE(m_pulsados.isEmpty());
 }
 
+TEST_F(PanelAvisoTest, TheFocusGoesBackToTheButtonThatOpensThePanel)
+{
+    QTest::keyClick(&control(u"optTodos"_s), Qt::Key_Escape);
+    EXPECT_EQ(m_menu->focusWidget(), &control(u"cmd_Generales12"_s));
+}
+
+TEST_F(PanelAvisoTest, TheKeyboardGoesFromTheFirstChoiceToTheWayOutAndPassesOverWhatIsCovered)
+{
+    control(u"optTodos"_s).setFocus();
+    QStringList camino;
+    for (int i = 0; i < 40; ++i) {
+        QTest::keyClick(m_menu->focusWidget(), Qt::Key_Tab);
+        camino += m_menu->focusWidget()->objectName();
+        EXPECT_FALSE(estaTapado(*m_menu->focusWidget())) << camino.constLast().toStdString();
+    }
+    EXPECT_EQ(camino.first(3), (QStringList{u"txtCPostal"_s, u"Command10"_s, u"cierraAviso"_s}));
+}
+
 } // namespace
 } // namespace kestrane

@@ -16,7 +16,8 @@ namespace {
 constexpr double EscalaMenor = 0.5;
 constexpr double EscalaMayor = 4;
 
-constexpr char Escala[] = "kestraneEscala"; ///< of a window: the factors of all calls, as they came
+constexpr char Escala[] = "kestraneEscala";             ///< of a window: the factors of all calls, as they came
+constexpr char UltimoTamano[] = "kestraneUltimoTamano"; ///< of a window: to which it was scaled last, twips
 
 /// The factors of all calls: as they came, but that no row of absurd ones leaves the numbers for good.
 QPointF llevada(QPointF escala)
@@ -45,6 +46,21 @@ QPointF escalaDe(const QWidget& ventana)
     return escala.isValid() ? escala.toPointF() : QPointF{1, 1};
 }
 
+bool esTamano(TamanoVentana tamano)
+{
+    return std::isfinite(tamano.ancho) && std::isfinite(tamano.alto) && tamano.ancho > 0 && tamano.alto > 0;
+}
+
+/// The size to which the controls were scaled last, or `origen` when they never were. The operator may have given the window itself
+/// another one since: that scaled nothing.
+TamanoVentana tamanoDeLosControles(const QWidget& ventana, TamanoVentana origen)
+{
+    const QVariant ultimo = ventana.property(UltimoTamano);
+    if (!ultimo.isValid() || !esTamano(origen))
+        return origen;
+    return {ultimo.toSizeF().width(), ultimo.toSizeF().height()};
+}
+
 EscalaControl acotada(QPointF escala)
 {
     return {std::clamp(limpio(escala.x()), EscalaMenor, EscalaMayor), std::clamp(limpio(escala.y()), EscalaMenor, EscalaMayor)};
@@ -54,15 +70,22 @@ EscalaControl acotada(QPointF escala)
 
 void EscaladorVentanas::EscalarForm(QWidget& ventana, TamanoVentana destino, TamanoVentana origen) const
 {
+    const TamanoVentana desde = tamanoDeLosControles(ventana, origen);
     const QPointF antes = escalaDe(ventana);
-    const QPointF ahora = llevada({antes.x() * factor(destino.ancho, origen.ancho), antes.y() * factor(destino.alto, origen.alto)});
+    const QPointF ahora = llevada({antes.x() * factor(destino.ancho, desde.ancho), antes.y() * factor(destino.alto, desde.alto)});
     ventana.setProperty(Escala, ahora);
     const CambioEscala cambio{acotada(antes), acotada(ahora)};
     const QSize tamano = ventana.size();
     for (QWidget* control : controlesDe(ventana))
         escalaControl(*control, cambio);
     LetraVentana{ventana}.ponEscala(cambio.ahora.menor());
-    escalaTamano(ventana, tamano, cambio);
+    if (esTamano(destino) && esTamano(origen))
+        ventana.setProperty(UltimoTamano, QSizeF{destino.ancho, destino.alto});
+    if (desde == origen)
+        escalaTamano(ventana, tamano, cambio);
+    else if (!ventana.isMaximized() && !ventana.isFullScreen())
+        ventana.resize(static_cast<int>(std::lround(tamano.width() * factor(destino.ancho, origen.ancho))),
+                       static_cast<int>(std::lround(tamano.height() * factor(destino.alto, origen.alto))));
 }
 
 } // namespace kestrane

@@ -108,8 +108,14 @@ TEST_F(EscaladorVentanasTest, NoRowOfAbsurdSizesLeavesTheNumbers)
     EXPECT_EQ(rotulo->minimumSize(), QSize(364, 132));
     escala({1, 1}, {1e300, 1e300});
     EXPECT_EQ(rotulo->minimumSize(), QSize(46, 17));
-    escala({1e308, 1e308}, {1e-308, 1e-308}); // more than a number holds: none
-    EXPECT_EQ(rotulo->minimumSize(), QSize(46, 17));
+    escala({1e308, 1e308}, {1, 1});
+    EXPECT_EQ(rotulo->minimumSize(), QSize(364, 132));
+}
+
+TEST_F(EscaladorVentanasTest, AFactorThatNoNumberHoldsIsNone)
+{
+    escala({1e308, 1e308}, {1e-308, 1e-308});
+    EXPECT_TRUE(estaComoEmpezo());
 }
 
 TEST_F(EscaladorVentanasTest, TheSettingOfLettersAndTheScaleMultiplyInEitherOrder)
@@ -127,6 +133,16 @@ TEST_F(EscaladorVentanasTest, AWindowThatTheOperatorResizedIsScaledFromThere)
     ventana.resize(3000, 2000);
     escala({10000, 10000}, {20000, 20000});
     EXPECT_EQ(ventana.size(), QSize(1500, 1000));
+}
+
+TEST_F(EscaladorVentanasTest, WhatTheOperatorGaveTheWindowDoesNotScaleItsControls)
+{
+    escala({19200, 14400}, {15360, 11085});
+    ventana.resize(1920, 1040); // drawn over the whole screen
+    escala({15360, 11085}, {28800, 15600});
+    EXPECT_EQ(ventana.size(), QSize(1024, 739));
+    EXPECT_EQ(rotulo->minimumSize(), QSize(91, 33));
+    EXPECT_TRUE(qFuzzyCompare(rotulo->font().pointSizeF(), 10));
 }
 
 TEST_F(EscaladorVentanasTest, DialogsOfTheWindowAreLeftAlone)

@@ -1,0 +1,31 @@
+#include "pipeline/filtros/decision_fechas.h"
+
+#include "pipeline/filtros/utilidades.h"
+
+namespace kestrane {
+
+void DecisionFechas::carga()
+{
+    m_contexto.FormatoTicket = false;
+    m_contexto.FiltroAceptado = false;
+    m_contexto.CajaCompleta = false;
+}
+
+Aceptacion DecisionFechas::acepta(bool formatosALaVista, Fecha desde, Fecha hasta)
+{
+    if (m_conFormatos && !formatosALaVista)
+        return {Aceptacion::Paso::PideFormato, {}};
+    return aceptaPeriodo(m_contexto, desde, hasta);
+}
+
+Aceptacion aceptaPeriodo(ContextoEjecucion& contexto, Fecha desde, Fecha hasta)
+{
+    if (const QString motivo = Utilidades::ComprobarFechas(desde, hasta); !motivo.isEmpty())
+        return {Aceptacion::Paso::Rechazada, motivo};
+    contexto.FechaDesde = desde;
+    contexto.FechaHasta = hasta;
+    contexto.FiltroAceptado = true;
+    return {Aceptacion::Paso::Aceptada, {}};
+}
+
+} // namespace kestrane

@@ -1,0 +1,114 @@
+#include "platform/controls/tile_panel.h"
+
+#include "platform/controls/ficha.h"
+
+#include <gtest/gtest.h>
+
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace kestrane {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class TilePanelTest : public testing::Test
+{
+protected:
+    /// Elements "0", "1", ... with the colour red, and a blank one at the end.
+    void da(int cuantos)
+    {
+        ArrayPanel elementos;
+        elementos.reserva(cuantos);
+        for (int i = 0; i < cuantos; ++i)
+            elementos[i] = {.Texto = u"Tienda %1"_s.arg(i), .ColorFondo = u"255"_s, .Imagen = {}, .Nombre = {}, .Codigo = {}};
+        panel.da(elementos);
+    }
+    void muestra(QSize tamano)
+    {
+        panel.resize(tamano);
+        panel.show();
+        QCoreApplication::processEvents();
+    }
+
+    TilePanel panel{u"PanelTiendas"_s, nullptr};
+};
+
+TEST_F(TilePanelTest, AnArrayThatWasNeverAllocatedShowsNothing)
+{
+    panel.da(ArrayPanel{});
+    EXPECT_TRUE(panel.fichas().isEmpty());
+}
+
+TEST_F(TilePanelTest, ItsButtonsAreTheElementsButTheBlankOnes)
+{
+    da(3);
+    ASSERT_EQ(panel.fichas().size(), 3);
+    EXPECT_EQ(panel.fichas()[2]->elemento().Texto, u"Tienda 2"_s);
+}
+
+TEST_F(TilePanelTest, APressTellsItsElementAndMarksItAlone)
+{
+    da(3);
+    muestra({500, 300});
+    QString pulsado;
+    QObject::connect(&panel, &TilePanel::pulsado, [&pulsado](const ElementoPanel& cual) { pulsado = cual.Texto; });
+    EXPECT_EQ(panel.elegido(), nullptr);
+    QTest::mouseClick(panel.fichas()[1], Qt::LeftButton);
+    EXPECT_EQ(pulsado, u"Tienda 1"_s);
+    QTest::mouseClick(panel.fichas()[2], Qt::LeftButton);
+    EXPECT_EQ(panel.elegido()->Texto, u"Tienda 2"_s);
+    EXPECT_FALSE(panel.fichas()[1]->isChecked());
+    QTest::mouseClick(panel.fichas()[2], Qt::LeftButton); // once more: it stays marked
+    EXPECT_TRUE(panel.fichas()[2]->isChecked());
+}
+
+TEST_F(TilePanelTest, WhoHearsOfAPressMayGiveAnotherArrayThereAndThen)
+{
+    da(3);
+    muestra({500, 300});
+    QObject::connect(
+        &panel, &TilePanel::pulsado, &panel, [this] { da(2); }, Qt::QueuedConnection);
+    QTest::mouseClick(panel.fichas()[1], Qt::LeftButton);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(panel.fichas().size(), 2);
+    EXPECT_EQ(panel.elegido(), nullptr);
+}
+
+TEST_F(TilePanelTest, ElementsHaveTheirOwnColoursUnlessItIsToldOtherwise)
+{
+    panel.ponColores(Qt::green, Qt::blue);
+    da(1);
+    EXPECT_EQ(panel.fichas()[0]->color(), QColor(255, 0, 0));
+    panel.usaColores(false);
+    EXPECT_EQ(panel.fichas()[0]->color(), QColor(Qt::green));
+}
+
+TEST_F(TilePanelTest, AColourThatIsNoneGivesThePanelsOwn)
+{
+    ArrayPanel elementos;
+    elementos.reserva(0);
+    elementos[0].Texto = u"Ana"_s;
+    elementos[0].ColorFondo = u"rojo"_s;
+    panel.ponColores(Qt::green, {});
+    panel.da(elementos);
+    EXPECT_EQ(panel.fichas()[0]->color(), QColor(Qt::green));
+}
+
+TEST_F(TilePanelTest, TwoHundredElementsAreScrolledAndNoneOverlaps)
+{
+    da(200);
+    muestra({500, 300});
+    EXPECT_GT(panel.verticalScrollBar()->maximum(), 0);
+    const QList<Ficha*>& fichas = panel.fichas();
+    for (qsizetype i = 0; i < fichas.size(); ++i) {
+        EXPECT_GE(fichas[i]->height(), 44);
+        EXPECT_LE(fichas[i]->geometry().right(), panel.viewport()->width());
+        for (qsizetype j = i + 1; j < std::min(i + 10, fichas.size()); ++j)
+            EXPECT_FALSE(fichas[i]->geometry().intersects(fichas[j]->geometry()));
+    }
+}
+
+} // namespace
+} // namespace kestrane
