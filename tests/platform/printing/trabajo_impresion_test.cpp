@@ -153,6 +153,7 @@ TEST_F(TrabajoImpresionTest, WhatIsBrokenOffLaterEndsBehindThePagesThatWereOut)
 
 TEST_F(TrabajoImpresionTest, TellsHowFarItIsAndHowManyPagesWereSent)
 {
+    const int antes = s_servidor->trabajos();
     std::vector<double> avisos;
     const PeticionImpresion peticion{.impresora = u"Laser"_s, .desde = 2};
     EXPECT_EQ(imprimeTrabajo(trabajo(5), peticion,
@@ -162,6 +163,7 @@ TEST_F(TrabajoImpresionTest, TellsHowFarItIsAndHowManyPagesWereSent)
                              }),
               4);
     EXPECT_THAT(avisos, testing::ElementsAre(0, 0, 0, 0, 0, 0.25, 0.5, 0.75));
+    EXPECT_EQ(paginasDe(s_servidor->trabajo(antes + 1)).size(), 4); // and no job is on its way when the queue goes
 }
 
 TEST_F(TrabajoImpresionTest, AllPagesComeOutOfTheQueueThatWasNamed)
