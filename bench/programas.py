@@ -78,7 +78,7 @@ def main():
         for size, goal in sizes:
             measure(f"crear-tienda --tamano {size}", goal, crea(folder, f"{data}/{size}", size))
     with tempfile.TemporaryDirectory() as data:
-        subprocess.run(crea(folder, f"{data}/datos", "dia"), check=True, stdout=subprocess.DEVNULL)
+        subprocess.run(crea(folder, f"{data}/datos", "mes"), check=True, stdout=subprocess.DEVNULL)
         menu(folder, data)
     with tempfile.TemporaryDirectory() as data:
         fill_with_suppliers(folder, data, PROVEEDORES)
