@@ -87,7 +87,12 @@ void PanelAviso::monta(BotonMenu* continuar)
     m_cumple = opcion(u"optCumple"_s, u"Cumpleaños"_s, m_frame12);
     m_visitas = opcion(u"optVisitas"_s, u"Numero visita"_s, m_frame12);
     juntas(this, {m_general, m_todos, m_cPostal, m_consumo, m_cumple, m_visitas});
+    montaElecciones();
+    montaPie(continuar);
+}
 
+void PanelAviso::montaElecciones()
+{
     auto* elecciones = new QVBoxLayout{m_frame13};
     elecciones->setContentsMargins({});
     elecciones->setSpacing(4);
@@ -96,20 +101,17 @@ void PanelAviso::monta(BotonMenu* continuar)
     elecciones->addWidget(fila(u"Frameb"_s, m_cPostal, m_textoCPostal));
     QFrame* const consumo = cifra(u"Frame16"_s, m_textoConsumo, u"txtConsumo"_s, m_mayorConsumo, u"OptMayorConsumo"_s,
                                   u"OptMenoConsumo"_s, m_consumo->text());
-    elecciones->addWidget(fila(u"Framec"_s, m_consumo, consumo));
     QFrame* const cumple = fechas();
-    elecciones->addWidget(fila(u"Framed"_s, m_cumple, cumple));
     QFrame* const visitas = cifra(u"Frame14"_s, m_textoVisitas, u"txtValVisitas"_s, m_mayorVisitas, u"OptMayorVisitas"_s,
                                   u"optMenoVisitas"_s, m_visitas->text());
-    elecciones->addWidget(fila(u"Framee"_s, m_visitas, visitas));
     // A frame is of use with its own option alone: it goes dark when another is chosen, too.
-    elecciones->addStretch(1);
-    for (const auto& [quien, detalle] : {std::pair{m_consumo, consumo}, {m_cumple, cumple}, {m_visitas, visitas}}) {
+    for (const auto& [nombre, quien, detalle] :
+         {std::tuple{u"Framec"_s, m_consumo, consumo}, {u"Framed"_s, m_cumple, cumple}, {u"Framee"_s, m_visitas, visitas}}) {
+        elecciones->addWidget(fila(nombre, quien, detalle));
         detalle->setEnabled(false);
         connect(quien, &QRadioButton::toggled, detalle, &QWidget::setEnabled);
     }
-
-    montaPie(continuar);
+    elecciones->addStretch(1);
 }
 
 void PanelAviso::montaPie(BotonMenu* continuar)

@@ -36,6 +36,7 @@ protected:
 
 private:
     void monta(BotonMenu* continuar);
+    void montaElecciones();
     void montaPie(BotonMenu* continuar);
     void ordenDeTeclado(QWidget* continuar);
     [[nodiscard]] QRadioButton* opcion(const QString& objeto, const QString& leyenda, QWidget* padre);
