@@ -1,4 +1,5 @@
 #include "apoyo/tienda_de_prueba.h"
+#include "pipeline/catalogue/catalogo.h"
 #include "pipeline/forms/frm_listados.h"
 #include "pipeline/forms/mensajes_en_ventana.h"
 #include "platform/suite/conector_tienda.h"
@@ -143,6 +144,23 @@ TEST_F(MenuVestidoTest, TheMenuNeverOpensLargerThanTheScreen)
     EXPECT_LE(m_menu->width(), pantalla.width());
     EXPECT_LE(m_menu->height(), pantalla.height());
     EXPECT_TRUE(pantalla.contains(m_menu->frameGeometry()));
+}
+
+TEST_F(MenuVestidoTest, InCatalanNoButtonKeepsItsSpanishCaption)
+{
+    const TraductorCaptions catalan{QStringLiteral(KESTRANE_TRADUCCIONES), {u"ca-ES"_s}};
+    const QStringList iguales{u"Pack Spa"_s, {}}; // the same in both, and the button without a caption
+    abre();
+    catalan.TraducirForm(*m_menu);
+    EXPECT_EQ(m_menu->Leyenda(u"cmd_Caja1"), u"Caixa Diària General"_s);
+    for (const catalogue::FilaCatalogo& fila : catalogue::catalogo()) {
+        const QString original = fila.leyenda.toString();
+        if (iguales.contains(original))
+            continue;
+        EXPECT_NE(m_menu->Leyenda(fila.control), original) << fila.control.toString().toStdString();
+    }
+    asienta();
+    compruebaBotones();
 }
 
 TEST_F(MenuVestidoTest, SmallWindowsArePlacedOverTheMenusButtons)
