@@ -9,6 +9,7 @@ namespace {
 
 constexpr int Lado = 96;
 constexpr qreal Grosor = 3;
+constexpr int Lineas = 4;
 
 /// With its corner folded.
 QPainterPath folio(const QRectF& caja)
@@ -57,8 +58,10 @@ QIcon dibujoDeFormato(bool ticket, const QColor& color)
     const QRectF caja = ticket ? QRectF{28, 6, 40, 84} : QRectF{16, 6, 64, 84};
     pintor.drawPath(ticket ? tira(caja) : folio(caja));
     const qreal margen = ticket ? 8 : 12;
-    for (qreal y = caja.top() + 30; y < caja.bottom() - 14; y += 12)
+    for (int linea = 0; linea < Lineas; ++linea) {
+        const qreal y = caja.top() + 30 + 12 * linea;
         pintor.drawLine(QPointF{caja.left() + margen, y}, QPointF{caja.right() - margen, y});
+    }
     return QIcon{dibujo};
 }
 
