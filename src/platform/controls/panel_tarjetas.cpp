@@ -15,13 +15,18 @@ constexpr int LetrasPorColumna = 17;
 
 } // namespace
 
-PanelTarjetas::PanelTarjetas(const QString& objeto, QWidget* padre) : QScrollArea{padre}, m_lienzo{new QWidget}
+PanelTarjetas::PanelTarjetas(const QString& objeto, QWidget* padre)
+    : QScrollArea{padre}
+    , m_lienzo{new QWidget}
+    , m_reparto{new QTimer{this}}
 {
     setObjectName(objeto);
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::NoFocus);
     setWidget(m_lienzo);
+    m_reparto->setSingleShot(true);
+    connect(m_reparto, &QTimer::timeout, this, &PanelTarjetas::reparte);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* ahora) {
         if (ahora && m_lienzo->isAncestorOf(ahora))
             ensureWidgetVisible(ahora, Margen, Margen);
@@ -39,10 +44,7 @@ void PanelTarjetas::anade(GrupoBotones* tarjeta)
 /// Once for all that changes before the next events are served.
 void PanelTarjetas::pideReparto()
 {
-    if (m_pedido)
-        return;
-    m_pedido = true;
-    QMetaObject::invokeMethod(this, &PanelTarjetas::reparte, Qt::QueuedConnection);
+    m_reparto->start(0);
 }
 
 int PanelTarjetas::anchoDeColumna() const
@@ -57,7 +59,7 @@ int PanelTarjetas::anchoDeColumna() const
 
 void PanelTarjetas::reparte()
 {
-    m_pedido = false;
+    m_reparto->stop();
     std::vector<Tarjeta> cartas;
     for (const GrupoBotones* const tarjeta : m_tarjetas) {
         const int botones = tarjeta->isHidden() ? 0 : static_cast<int>(tarjeta->visibles().size());

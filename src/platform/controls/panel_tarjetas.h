@@ -3,6 +3,7 @@
 #include "platform/controls/grupo_botones.h"
 
 #include <QScrollArea>
+#include <QTimer>
 
 namespace kestrane {
 
@@ -38,7 +39,7 @@ private:
 
     QWidget* m_lienzo;
     QList<GrupoBotones*> m_tarjetas;
-    bool m_pedido = false;
+    QTimer* m_reparto;
 };
 
 } // namespace kestrane

@@ -37,8 +37,8 @@ struct Paleta
 {
     Rgb mezcla = 0;
     for (int bits = 16; bits >= 0; bits -= 8) {
-        const int desde = color >> bits & 0xff;
-        const int hasta = otro >> bits & 0xff;
+        const auto desde = static_cast<int>(color >> bits & 0xff);
+        const auto hasta = static_cast<int>(otro >> bits & 0xff);
         mezcla = mezcla << 8 | static_cast<Rgb>(desde + (hasta - desde) * porCiento / 100);
     }
     return mezcla;

@@ -207,7 +207,7 @@ int EstiloSuite::pixelMetric(PixelMetric medida, const QStyleOption* opcion, con
 void ponEstiloSuite()
 {
     if (!qobject_cast<EstiloSuite*>(QApplication::style()))
-        QApplication::setStyle(new EstiloSuite); // which the program owns from here on
-}
+        QApplication::setStyle(new EstiloSuite);
+} // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks): the program owns its style from here on
 
 } // namespace kestrane
