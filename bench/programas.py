@@ -6,6 +6,7 @@
 """
 import os
 import resource
+import sqlite3
 import subprocess
 import sys
 import tempfile
@@ -50,14 +51,15 @@ def listado(folder, data, *words):
 
 
 def fill_with_suppliers(folder, data, suppliers):
-    """An empty shop with so many suppliers."""
+    """An empty shop with so many suppliers, written in one transaction."""
     subprocess.run([f"{folder}/bin/crear-tienda", "--vacia", "--datos", data], check=True, stdout=subprocess.DEVNULL)
-    statements = os.path.join(data, "altas.sql")
-    with open(statements, "w", encoding="utf-8") as file:
-        for code in range(1, suppliers + 1):
-            file.write("insert into proveedores (codigo, codigocliente, nombre, direccion, cp, telefono, nif, borrar) values "
-                       f"({code}, 'P{code}', 'Distribuciones Núñez {code}', 'Calle Mayor {code}', '46001', '963000000', 'B46000000', 0)\n")
-    subprocess.run(listado(folder, data, "--escribir", "--sql-fichero", statements), check=True, stdout=subprocess.DEVNULL)
+    rows = ((code, f"P{code}", f"Distribuciones Núñez {code}", f"Calle Mayor {code}", "46001", "963000000", "B46000000", 0)
+            for code in range(1, suppliers + 1))
+    shop = sqlite3.connect(os.path.join(data, "TiendaKestrane.db"))
+    with shop:
+        shop.executemany("insert into proveedores (codigo, codigocliente, nombre, direccion, cp, telefono, nif, borrar) "
+                         "values (?, ?, ?, ?, ?, ?, ?, ?)", rows)
+    shop.close()
 
 
 def menu(folder, program_folder):
