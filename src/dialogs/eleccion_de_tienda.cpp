@@ -41,8 +41,8 @@ EleccionDeTienda::EleccionDeTienda(ContextoEjecucion& contexto, QWidget* padre)
 
 void EleccionDeTienda::CargarTiendas(const QWidget& marcoDeBotones, const QWidget& marcoDeFondo)
 {
-    setVisible(ofreceTiendas(m_contexto));
-    if (!ofreceTiendas(m_contexto))
+    setVisible(enServidor(m_contexto));
+    if (!enServidor(m_contexto))
         return;
     m_panel->ponColores(fondoDe(marcoDeBotones), fondoDe(marcoDeFondo));
     m_panel->da(m_contexto.Tiendas);

@@ -1,6 +1,8 @@
 #include "lote/dialogos_de_lote.h"
 
 #include "lote/peticion_imposible.h"
+#include "pipeline/filtros/ordenes.h"
+#include "pipeline/filtros/utilidades.h"
 #include "pipeline/sabores.h"
 #include "platform/database/recordset.h"
 
@@ -19,10 +21,6 @@ namespace {
 
 constexpr qint32 Todos = -1; // the code of that button
 
-constexpr QStringView OrdenesDeProductos[] = {u"Nombre", u"Seccion", u"Proveedor", u"Codigo", u"Stock"};
-constexpr QStringView OrdenesDeClientes[] = {u"Nombre", u"Ingreso", u"nacimiento", u"UltimaVisita", u"Apellidos"};
-constexpr QStringView OrdenesDeServicios[] = {u"Nombre", u"Seccion", u"Codigo"};
-
 constexpr DialogosDeLote::Panel PanelEmpleados{u"Select codigo,nombre,apellidos,imagen,color,emp_color from empleados where baja= "
                                                u"false and mostrar_caja = -1 order by posicion",
                                                u"Todos los Empleados"};
@@ -30,6 +28,17 @@ constexpr DialogosDeLote::Panel PanelProveedores{u"Select * from Proveedores whe
                                                  u"Todos los Proveedores"};
 constexpr DialogosDeLote::Panel PanelSecciones{u"Select * from Seccion where Borrar=false order by posicion",
                                                u"Todas las Secciones"};
+
+/// The columns of a dialog's buttons; an option of its own stands for the one with e-mail.
+std::vector<QStringView> columnas(std::span<const Orden> ordenes)
+{
+    std::vector<QStringView> lista;
+    for (const Orden& orden : ordenes) {
+        if (!orden.soloConEmail)
+            lista.push_back(orden.columna);
+    }
+    return lista;
+}
 
 QString tituloDeClase(const QString& clase)
 {
@@ -71,7 +80,7 @@ void DialogosDeLote::Muestra(Dialogo dialogo, const QString&)
     case Dialogo::OrdenClientes:
         return ordenClientes();
     case Dialogo::OrdenServicios:
-        m_contexto.filtros.columnaOrden = m_respuestas.columnaDeOrden(OrdenesDeServicios);
+        m_contexto.filtros.columnaOrden = m_respuestas.columnaDeOrden(columnas(ordenesDeServicios()));
         return acepta();
     case Dialogo::ClientesPerdidos:
         return clientesPerdidos();
@@ -90,8 +99,8 @@ void DialogosDeLote::ponPeriodo()
 {
     const Fecha desde = m_respuestas.dia(Respuesta::Desde);
     const Fecha hasta = m_respuestas.dia(Respuesta::Hasta);
-    if (hasta < desde)
-        throw PeticionImposible{u"La fecha hasta seleccionada es anterior a la fecha desde."_s};
+    if (const QString motivo = Utilidades::ComprobarFechas(desde, hasta); !motivo.isEmpty())
+        throw PeticionImposible{motivo};
     m_contexto.FechaDesde = desde;
     m_contexto.FechaHasta = hasta;
 }
@@ -161,7 +170,7 @@ void DialogosDeLote::filtrosProductos()
         eligeBajoMinimos();
     else
         eligeProductos();
-    filtros.columnaOrden = m_respuestas.columnaDeOrden(OrdenesDeProductos);
+    filtros.columnaOrden = m_respuestas.columnaDeOrden(columnas(ordenesDeProductos()));
     acepta();
 }
 
@@ -206,7 +215,7 @@ void DialogosDeLote::ordenClientes()
 {
     m_contexto.filtros.soloConEmail = m_respuestas.tiene(Respuesta::SoloEmail);
     m_contexto.filtros.columnaOrden =
-        m_contexto.filtros.soloConEmail ? u"Nombre"_s : m_respuestas.columnaDeOrden(OrdenesDeClientes);
+        m_contexto.filtros.soloConEmail ? u"Nombre"_s : m_respuestas.columnaDeOrden(columnas(ordenesDeClientes()));
     acepta();
 }
 

@@ -1,7 +1,6 @@
 #include "lote/tienda_elegida.h"
 
 #include "lote/peticion_imposible.h"
-#include "pipeline/catalogue/condiciones.h"
 
 namespace kestrane::lote {
 
@@ -27,7 +26,7 @@ void eligeTienda(ContextoEjecucion& contexto, const QString& tienda)
         contexto.TiendaSeleccionada.clear();
         return;
     }
-    if (!catalogue::enServidor(contexto)) {
+    if (!enServidor(contexto)) {
         contexto.TiendaSeleccionada = tienda;
         return;
     }

@@ -71,4 +71,11 @@ struct ContextoEjecucion
     Filtros filtros;
 };
 
+/// The central installation, which covers several stores: it is called "Servidor", in this spelling. The list of its stores may be
+/// missing all the same.
+[[nodiscard]] inline bool enServidor(const ContextoEjecucion& contexto)
+{
+    return contexto.NombreTienda == u"Servidor" && contexto.MultiTienda;
+}
+
 } // namespace kestrane

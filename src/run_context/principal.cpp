@@ -92,7 +92,7 @@ void Principal::Inicializa()
     LeerOpciones();
     LeerIdentificacionFiscal();
     LeerMultiTienda();
-    if (m_contexto.NombreTienda == u"Servidor" && m_contexto.MultiTienda)
+    if (enServidor(m_contexto))
         CargarListaTiendas();
     LeerPermiteListadoVariosDias();
     LeerModuloFacturas();

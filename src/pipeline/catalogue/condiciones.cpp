@@ -44,9 +44,4 @@ bool reimprimeFactura(const ContextoEjecucion& contexto)
     return contexto.ReimprimirFactura;
 }
 
-bool enServidor(const ContextoEjecucion& contexto)
-{
-    return contexto.MultiTienda && contexto.NombreTienda == u"Servidor";
-}
-
 } // namespace kestrane::catalogue

@@ -20,8 +20,4 @@ namespace kestrane::catalogue {
 /// The reprint was asked for as an invoice; as a ticket its dialog has printed it already.
 [[nodiscard]] bool reimprimeFactura(const ContextoEjecucion& contexto);
 
-/// The central installation, which covers several stores: it is called "Servidor", in this spelling. The list of its stores may be
-/// missing all the same.
-[[nodiscard]] bool enServidor(const ContextoEjecucion& contexto);
-
 } // namespace kestrane::catalogue

@@ -4,9 +4,6 @@
 
 namespace kestrane {
 
-/// Whether dialogs offer a panel of stores: on the server alone.
-[[nodiscard]] bool ofreceTiendas(const ContextoEjecucion& contexto);
-
 /// A press on a store: it is chosen until another is pressed. "Todas", in whatever case, is all of them: "".
 void pulsaTienda(ContextoEjecucion& contexto, const QString& texto);
 

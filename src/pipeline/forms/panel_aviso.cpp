@@ -50,8 +50,7 @@ PanelAviso::PanelAviso(BotonMenu* continuar, QWidget* padre) : QFrame{padre}
 {
     setObjectName(u"frAviso"_s);
     setFrameShape(QFrame::StyledPanel);
-    setAutoFillBackground(true);
-    setProperty("tarjeta", true);
+    setProperty("tarjeta", true); // which paints its ground, round corners and all
     monta(continuar);
     ordenDeTeclado(continuar);
     hide();
@@ -111,7 +110,6 @@ void PanelAviso::montaElecciones()
         detalle->setEnabled(false);
         connect(quien, &QRadioButton::toggled, detalle, &QWidget::setEnabled);
     }
-    elecciones->addStretch(1);
 }
 
 void PanelAviso::montaPie(BotonMenu* continuar)
@@ -131,8 +129,9 @@ void PanelAviso::montaPie(BotonMenu* continuar)
     auto* columna = new QVBoxLayout{this};
     columna->setContentsMargins(10, 10, 10, 10);
     columna->addWidget(nota);
-    columna->addWidget(m_frame12, 1);
+    columna->addWidget(m_frame12);
     columna->addLayout(pie);
+    columna->addStretch(1);
 }
 
 /// From the first choice down to the way out.

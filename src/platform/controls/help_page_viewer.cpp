@@ -19,8 +19,7 @@ HelpPageViewer::HelpPageViewer(const QString& objeto, QWidget* padre)
 {
     setObjectName(objeto);
     setFrameShape(QFrame::StyledPanel);
-    setAutoFillBackground(true);
-    setProperty("tarjeta", true);
+    setProperty("tarjeta", true); // which paints its ground, round corners and all
     auto* titulo = new QLabel{u"Ayuda"_s, this};
     titulo->setProperty("letraRelativa", 1.2);
     m_cierre->setObjectName(u"cierreAyuda"_s);

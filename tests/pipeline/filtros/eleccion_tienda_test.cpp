@@ -14,17 +14,6 @@ protected:
     ContextoEjecucion m_contexto{m_entorno};
 };
 
-TEST_F(EleccionTiendaTest, StoresAreOfferedOnTheServerAlone)
-{
-    EXPECT_FALSE(ofreceTiendas(m_contexto));
-    m_contexto.NombreTienda = u"Servidor"_s;
-    EXPECT_FALSE(ofreceTiendas(m_contexto));
-    m_contexto.MultiTienda = true;
-    EXPECT_TRUE(ofreceTiendas(m_contexto));
-    m_contexto.NombreTienda = u"SERVIDOR"_s;
-    EXPECT_FALSE(ofreceTiendas(m_contexto));
-}
-
 TEST_F(EleccionTiendaTest, APressedStoreIsChosen)
 {
     pulsaTienda(m_contexto, u"Centro"_s);
