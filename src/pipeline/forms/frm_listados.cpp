@@ -261,6 +261,17 @@ void FrmListados::resizeEvent(QResizeEvent* evento)
     QWidget::resizeEvent(evento);
     m_ayuda->acomoda();
     colocaInfo();
+    acomodaTitulo();
+}
+
+/// In a narrow window the title takes two lines, and the shop's name gives way.
+void FrmListados::acomodaTitulo()
+{
+    constexpr int AnchoDeBotones = 460;
+    auto* const titulo = findChild<QLabel*>(u"lblTitulo"_s);
+    const bool estrecha = width() < titulo->fontMetrics().horizontalAdvance(titulo->text()) + AnchoDeBotones;
+    titulo->setWordWrap(estrecha);
+    m_empresa->setVisible(!estrecha);
 }
 
 void FrmListados::colocaInfo()

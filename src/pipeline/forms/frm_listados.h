@@ -93,6 +93,7 @@ private:
     void colocaAviso();
     void cierraAviso();
     void colocaInfo();
+    void acomodaTitulo();
     void cabeEnPantalla();
     void EscalarMe();
     void cambiaTamano();

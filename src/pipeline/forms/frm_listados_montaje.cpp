@@ -84,7 +84,7 @@ QFrame* FrmListados::cabecera()
     marco->setObjectName(u"Frame8"_s);
     auto* titulo = rotulo(u"lblTitulo"_s, u"SELECCIONE SU OPCION"_s, marco);
     titulo->setProperty("letraRelativa", 1.4);
-    titulo->setWordWrap(true); // in narrow windows it takes two lines
+    titulo->setMinimumWidth(1); // it breaks where the window is narrow, and never widens it
     m_bandera = rotulo(u"Bandera"_s, {}, marco);
     m_bandera->setMaximumSize(60, 40);
     m_empresa = rotulo(u"lblEmpresa"_s, {}, marco);
