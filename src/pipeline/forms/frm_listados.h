@@ -53,7 +53,7 @@ public:
     void Listar(const QString& indice, const QString& codigo);
 
     // Menu
-    [[nodiscard]] QString Leyenda(QStringView control) const override;
+    [[nodiscard]] QString Leyenda(QStringView cual) const override;
     void Haz(AccionMenu accion) override;
     void Repinta() override { repaint(); }
     void MuestraInfo() override;
