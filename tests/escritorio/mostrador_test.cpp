@@ -152,7 +152,7 @@ TEST_F(MostradorTest, AListingWhoseDialogIsLeftIsNotBuilt)
 TEST_F(MostradorTest, AReportThatIsNotThereYetSaysSo)
 {
     aceptaAvisos();
-    pulsa(u"cmd_Caja1"_s);
+    pulsa(u"cmd_Ventas7"_s);
     EXPECT_EQ(m_avisos, QStringList{u"Listados: Este listado todavía no está disponible."_s});
 }
 

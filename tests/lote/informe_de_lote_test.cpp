@@ -286,7 +286,7 @@ TEST_F(InformeDeLote, TheListNamesReportsAndChartsAndWhatIsStillMissing)
 {
     const QByteArray lista = listaDeInformes();
     EXPECT_EQ(lista.count('\n'), 59 + 7); // reports and charts
-    EXPECT_TRUE(lista.startsWith("cmd_Caja1\tCaja: Caja Diaria General\tinforme\t"));
+    EXPECT_TRUE(lista.startsWith("cmd_Caja1\tCaja: Caja Diaria General\tinforme\n"));
     EXPECT_TRUE(lista.contains("\ncmd_Marcas\tMarcas\tinforme\n"));
     EXPECT_TRUE(lista.contains("\nCommand8\tGraficos de venta: Por Empleados\tgrafico\ttodavía no disponible\n"));
     EXPECT_TRUE(lista.contains("\nCommand10\tListados Generales: Etiquetas de Clientes\tinforme\t"));

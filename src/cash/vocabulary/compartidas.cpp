@@ -61,4 +61,13 @@ QString nombreCortoDeLinea(Listados& listados, const Valor& factura, Recordset& 
     return palabras.size() >= 2 ? palabras[0] + u' ' + palabras[1] : nombre;
 }
 
+Valor nombreEnteroDeLinea(Listados& listados, const Valor& factura, Recordset& linea)
+{
+    Valor nombre = linea.Fields(u"NombreEmpleado");
+    if (nombre.esNulo() || !nombre.texto().isEmpty())
+        return nombre;
+    const Valor tipo = linea.Fields(u"tipo_venta");
+    return EmpleadosCompartida(listados, {factura, linea.Fields(u"codigo"), tipo.esNulo() ? u"S"_s : listados.texto(tipo)});
+}
+
 } // namespace kestrane

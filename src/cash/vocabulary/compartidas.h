@@ -26,4 +26,8 @@ struct LineaCompartida
 /// of all when it is empty, as it is on a shared line. `factura` is the number of the line's sale. Error 94 for a Null name.
 [[nodiscard]] QString nombreCortoDeLinea(Listados& listados, const Valor& factura, Recordset& linea);
 
+/// The employee of an annulled line: `NombreEmpleado` whole, Null as Null; the names of all when it is empty, a kind that is Null
+/// counting as S.
+[[nodiscard]] Valor nombreEnteroDeLinea(Listados& listados, const Valor& factura, Recordset& linea);
+
 } // namespace kestrane

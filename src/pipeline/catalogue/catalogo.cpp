@@ -1,5 +1,9 @@
 #include "pipeline/catalogue/catalogo.h"
 
+#include "cash/listado_albaranes.h"
+#include "cash/listado_caja_diaria.h"
+#include "cash/listado_formas_pago_ventas.h"
+#include "cash/listado_por_servicios.h"
 #include "listings/listado_empleados.h"
 #include "listings/listados_articulos.h"
 #include "listings/listados_maestros.h"
@@ -46,9 +50,9 @@ constexpr Acciones EtiquetasDeProductos{
     {{AccionMenu::EtiquetasDeProductosTPV, esDeAlimentacionYPerfume, true}, {AccionMenu::EtiquetasDeProductos, nullptr, true}}};
 
 constexpr std::array Caja{
-    informe(u"cmd_Caja1", u"Caja Diaria General", F, de(u"ListadoCajaDiaria"),
+    informe(u"cmd_Caja1", u"Caja Diaria General", F, de(u"ListadoCajaDiaria", ListadoCajaDiaria),
             porComercio(u"T_caja_diariageneral2.rpt", u"K_caja_diariageneral2.rpt"), Hoy | Bucle),
-    informe(u"cmdCajaDiariaResumido", u"Caja Diaria General Resumido", F, de(u"ListadoCajaDiaria"),
+    informe(u"cmdCajaDiariaResumido", u"Caja Diaria General Resumido", F, de(u"ListadoCajaDiaria", ListadoCajaDiaria),
             porComercio(u"T_caja_diariaResumido.rpt", u"K_caja_diariaResumido.rpt"), Hoy | Bucle),
     informe(u"cmd_Caja3", u"Caja General por Empleados", FConFormatos, de(u"ListadoCajaGeneral"), CajaGeneral, Hoy | Bucle),
     informe(u"cmd_Caja4", u"Caja Diaria Formato Ticket", F, de(u"ListadoCajaTickets"), CajaTickets, Hoy | Bucle),
@@ -57,9 +61,10 @@ constexpr std::array Caja{
 };
 
 constexpr std::array Ventas{
-    informe(u"cmd_Ventas1", u"Por Servicios", FConFormatos, de(u"ListadoPorServicios"),
+    informe(u"cmd_Ventas1", u"Por Servicios", FConFormatos, de(u"ListadoPorServicios", ListadoPorServicios),
             porTicket(u"K_porservicios_ticket.rpt", u"K_porservicios.rpt"), Bucle),
-    informe(u"cmd_Ventas2", u"Formas de Pago", F, de(u"ListadoFormasPagoVentas"), en(u"K_formapago.rpt"), Bucle),
+    informe(u"cmd_Ventas2", u"Formas de Pago", F, de(u"ListadoFormasPagoVentas", ListadoFormasPagoVentas), en(u"K_formapago.rpt"),
+            Bucle),
     tras(buscaClientes,
          informe(u"cmd_Ventas3", u"Hist. X Clientes", BuscarEHistorico, de(u"ListadoHistoricoClientes"),
                  porComercio(u"T_Listado_Historico.rpt", u"K_Listado_Historico.rpt"), Bucle | Marca::SinFiltroAceptado)),
@@ -78,7 +83,7 @@ constexpr std::array Ventas{
             en(u"K_productosstock.rpt"), Bucle),
     informe(u"cmd_Ventas12", u"Caja Totales por Día", F, de(u"ListadoTotalesPorDia"), en(u"K_TotalesXDia.rpt"), Bucle),
     informe(u"cmd_Ventas20", u"Por Arreglos", F, de(u"ListadoPorArreglos"), en(u"K_porArreglos.rpt")),
-    informe(u"cmdAlbaranes", u"Ventas modo Albaran", F, de(u"ListadoAlbaranes"), Albaranes, Hoy),
+    informe(u"cmdAlbaranes", u"Ventas modo Albaran", F, de(u"ListadoAlbaranes", ListadoAlbaranes), Albaranes, Hoy),
 };
 
 constexpr std::array Estadisticas{

@@ -1,5 +1,9 @@
 #include "pipeline/catalogue/catalogo.h"
 
+#include "cash/listado_albaranes.h"
+#include "cash/listado_caja_diaria.h"
+#include "cash/listado_formas_pago_ventas.h"
+#include "cash/listado_por_servicios.h"
 #include "listings/listado_empleados.h"
 #include "listings/listados_articulos.h"
 #include "listings/listados_maestros.h"
@@ -123,12 +127,23 @@ struct ConstructorEsperado
 };
 
 constexpr ConstructorEsperado Construidos[] = {
-    {u"cmd_Generales3", ListadoEmpleados},    {u"cmd_Generales4", ListadoServicios},
-    {u"cmd_Generales5", ListadoPackSpa},      {u"cmd_Generales7", ListadoPackServicios},
-    {u"cmd_Generales8", ListadoSecciones},    {u"cmd_Generales9", ListadoFormasPago},
-    {u"cmd_Generales10", ListadoProveedores}, {u"cmd_Colores", ListadoColores},
-    {u"cmd_Marcas", ListadoMarcas},           {u"cmd_Tallas", ListadoTallas},
-    {u"cmd_Talleres", ListadoTalleres},       {u"cmd_Arreglos", ListadoArreglos},
+    {u"cmd_Caja1", ListadoCajaDiaria},
+    {u"cmdCajaDiariaResumido", ListadoCajaDiaria},
+    {u"cmd_Ventas1", ListadoPorServicios},
+    {u"cmd_Ventas2", ListadoFormasPagoVentas},
+    {u"cmdAlbaranes", ListadoAlbaranes},
+    {u"cmd_Generales3", ListadoEmpleados},
+    {u"cmd_Generales4", ListadoServicios},
+    {u"cmd_Generales5", ListadoPackSpa},
+    {u"cmd_Generales7", ListadoPackServicios},
+    {u"cmd_Generales8", ListadoSecciones},
+    {u"cmd_Generales9", ListadoFormasPago},
+    {u"cmd_Generales10", ListadoProveedores},
+    {u"cmd_Colores", ListadoColores},
+    {u"cmd_Marcas", ListadoMarcas},
+    {u"cmd_Tallas", ListadoTallas},
+    {u"cmd_Talleres", ListadoTalleres},
+    {u"cmd_Arreglos", ListadoArreglos},
 };
 
 TEST(Catalogo, EachBuilderStandsInTheRowOfItsButton)
@@ -143,11 +158,11 @@ TEST(Catalogo, EachBuilderStandsInTheRowOfItsButton)
 TEST(Catalogo, WhatWaitsForABuilderOrAChartNamesItAndIsNotAvailable)
 {
     const auto falta = [](QStringView control) { return queFalta(*busca(control)).toString().toStdString(); };
-    EXPECT_EQ(falta(u"cmd_Caja1"), "ListadoCajaDiaria");
+    EXPECT_EQ(falta(u"cmd_Ventas7"), "ListadoImpuestos");
     EXPECT_EQ(falta(u"cmd_AgendaAnuladas"), "ListadoAgenda");
     EXPECT_EQ(falta(u"Command2"), "facturacionXHoras");
     EXPECT_EQ(falta(u"cmd_Marcas"), "");
-    EXPECT_FALSE(estaDisponible(*busca(u"cmd_Caja1")));
+    EXPECT_FALSE(estaDisponible(*busca(u"cmd_Ventas7")));
     EXPECT_FALSE(estaDisponible(*busca(u"Command2")));
 }
 

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "pipeline/listados.h"
+
+/// Sums of the cash desk over the run's period and store, euros, where a report does not list their rows. A Null amount is error
+/// 94, but for the sums that the database makes.
+namespace kestrane::cash {
+
+/// `importe` of the first row of `caja_inicial` on a period of one day; 0 without a row and over longer periods.
+[[nodiscard]] double cajaInicialDelDia(Listados& listados);
+/// What was left unpaid of the period's sales (`cabecera_pago`).
+[[nodiscard]] double totalNoCobrado(Listados& listados);
+/// sum(importe) of the rows of `tabla` by their `fecha`; 0 when there are none.
+[[nodiscard]] double sumaDeImportes(Listados& listados, const QString& tabla);
+
+enum class Avance { Calla, Cuenta };
+/// The same, row by row; the progress bar goes on with each when it is to.
+[[nodiscard]] double importesDe(Listados& listados, const QString& tabla, Avance avance = Avance::Calla);
+
+} // namespace kestrane::cash

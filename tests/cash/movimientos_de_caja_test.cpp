@@ -1,0 +1,64 @@
+#include "cash/movimientos_de_caja.h"
+
+#include "cash/tienda_de_caja.h"
+
+#include <gtest/gtest.h>
+
+namespace kestrane::cash {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class MovimientosDeCajaTest : public testing::Test
+{
+protected:
+    prueba::TiendaDeCaja m_tienda;
+};
+
+TEST_F(MovimientosDeCajaTest, TheOpeningCashIsTheFirstOfTheDayAndNoneOverALongerPeriod)
+{
+    EXPECT_EQ(cajaInicialDelDia(m_tienda.listados), 0);
+    m_tienda.mueve(u"caja_inicial"_s, 50.25);
+    m_tienda.mueve(u"caja_inicial"_s, 7);
+    EXPECT_EQ(cajaInicialDelDia(m_tienda.listados), 50.25);
+    m_tienda.periodo(15, 16);
+    EXPECT_EQ(cajaInicialDelDia(m_tienda.listados), 0);
+}
+
+TEST_F(MovimientosDeCajaTest, WhatWasLeftUnpaidIsThatOfThePeriodsSales)
+{
+    m_tienda.vende({.numero = 1});
+    m_tienda.vende({.numero = 2});
+    m_tienda.vende({.numero = 3, .dia = u"#03/14/2024#"_s});
+    m_tienda.debe(10, 1, 4.5);
+    m_tienda.debe(11, 3, 100);
+    m_tienda.debe(12, 2, 0.25);
+    EXPECT_EQ(totalNoCobrado(m_tienda.listados), 4.75);
+}
+
+TEST_F(MovimientosDeCajaTest, SumsAreOfThePeriodAndTheStoreAndNoneIsZero)
+{
+    EXPECT_EQ(sumaDeImportes(m_tienda.listados, u"gastos"_s), 0);
+    m_tienda.mueve(u"gastos"_s, 4.5);
+    m_tienda.mueve(u"gastos"_s, 1.25);
+    m_tienda.mueve(u"gastos"_s, 100, u"#03/16/2024#"_s);
+    EXPECT_EQ(sumaDeImportes(m_tienda.listados, u"gastos"_s), 5.75);
+    EXPECT_EQ(importesDe(m_tienda.listados, u"gastos"_s), 5.75);
+    m_tienda.contexto.TiendaSeleccionada = u"Sur"_s;
+    EXPECT_EQ(sumaDeImportes(m_tienda.listados, u"gastos"_s), 0);
+    EXPECT_EQ(importesDe(m_tienda.listados, u"gastos"_s), 0);
+}
+
+TEST_F(MovimientosDeCajaTest, TheProgressBarGoesOnWithEachRowOnlyWhenItIsTo)
+{
+    m_tienda.mueve(u"gastos"_s, 1);
+    m_tienda.mueve(u"gastos"_s, 1);
+    EXPECT_EQ(importesDe(m_tienda.listados, u"gastos"_s), 2);
+    EXPECT_EQ(sumaDeImportes(m_tienda.listados, u"gastos"_s), 2);
+    EXPECT_EQ(m_tienda.progreso.pasos, 0);
+    EXPECT_EQ(importesDe(m_tienda.listados, u"gastos"_s, Avance::Cuenta), 2);
+    EXPECT_EQ(m_tienda.progreso.pasos, 2);
+}
+
+} // namespace
+} // namespace kestrane::cash
