@@ -159,7 +159,7 @@ TEST(LineasDeCaja, HaveTheirHeadingsOnEachPage)
         {u"K_caja_general.rpt"_s, u"Empleado Productos Total"_s},
         {u"K_porservicios.rpt"_s, u"Fecha Ticket Cliente Código Servicio Empleado Pago Precio Uds. Neto Impuestos Total"_s},
         {u"K_formapago.rpt"_s, u"Fecha Ticket Cliente Concepto Empleado Neto Impuestos Total"_s},
-        {u"T_Albaranes.rpt"_s, u"Fecha Albarán Cliente Concepto Empleado Pago Neto Impuestos Total Por albarán"_s},
+        {u"T_Albaranes.rpt"_s, u"Fecha Albarán Cliente Concepto Empleado Pago Neto Impuestos Total Por alb."_s},
     };
     for (const auto& [layout, titulos] : casos) {
         SCOPED_TRACE(layout.toStdString());
