@@ -16,9 +16,14 @@ bool TienePagoPendiente(Listados& listados, const Valor& venta)
     return hayFila(listados, consultaDePagoPendiente(listados.contexto).sentencia(listados, venta));
 }
 
+ConsultaPorCodigo consultaDeImportePendiente()
+{
+    return {u"Select importe from cabecera_pago where num_factura = "_s, {}};
+}
+
 double ImportePendiente(Listados& listados, const Valor& venta)
 {
-    return primeraFila(listados, u"Select importe from cabecera_pago where num_factura = "_s + listados.texto(venta), 0.0,
+    return primeraFila(listados, consultaDeImportePendiente().sentencia(listados, venta), 0.0,
                        [](Recordset& fila) { return fila.Fields(u"importe").doble(); });
 }
 

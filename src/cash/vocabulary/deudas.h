@@ -10,6 +10,7 @@ namespace kestrane {
 [[nodiscard]] ConsultaPorCodigo consultaDePagoPendiente(const ContextoEjecucion& contexto);
 /// What was left unpaid when the sale was made, euros; 0 when nothing was. Whatever the store.
 [[nodiscard]] double ImportePendiente(Listados& listados, const Valor& venta);
+[[nodiscard]] ConsultaPorCodigo consultaDeImportePendiente();
 
 /// The sale and the client of a debt; 0 when there is no such debt.
 [[nodiscard]] qint32 FacturaDelPago(Listados& listados, const Valor& pago);

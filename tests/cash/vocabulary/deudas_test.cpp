@@ -113,6 +113,8 @@ TEST_F(DeudasTest, WhatABuilderAnnouncesIsWhatTheLookupAsks)
     eligeTienda(u"Centro"_s);
     EXPECT_EQ(consultaDePagoPendiente(m_listados.contexto).sentencia(m_listados, qint32{118}),
               u"Select num_pago from cabecera_pago where num_factura= 118 and tienda like '%Centro'"_s);
+    EXPECT_EQ(consultaDeImportePendiente().sentencia(m_listados, qint32{118}),
+              u"Select importe from cabecera_pago where num_factura = 118"_s);
     EXPECT_EQ(consultaDeFacturaDelPago().sentencia(m_listados, qint32{3}),
               u"Select num_factura from cabecera_pago where num_pago = 3"_s);
     EXPECT_EQ(consultaDeClienteDelPago().sentencia(m_listados, qint32{3}),
