@@ -2,6 +2,8 @@
 
 #include "cash/listado_albaranes.h"
 #include "cash/listado_caja_diaria.h"
+#include "cash/listado_caja_general.h"
+#include "cash/listado_caja_tickets.h"
 #include "cash/listado_formas_pago_ventas.h"
 #include "cash/listado_por_servicios.h"
 #include "listings/listado_empleados.h"
@@ -54,8 +56,8 @@ constexpr std::array Caja{
             porComercio(u"T_caja_diariageneral2.rpt", u"K_caja_diariageneral2.rpt"), Hoy | Bucle),
     informe(u"cmdCajaDiariaResumido", u"Caja Diaria General Resumido", F, de(u"ListadoCajaDiaria", ListadoCajaDiaria),
             porComercio(u"T_caja_diariaResumido.rpt", u"K_caja_diariaResumido.rpt"), Hoy | Bucle),
-    informe(u"cmd_Caja3", u"Caja General por Empleados", FConFormatos, de(u"ListadoCajaGeneral"), CajaGeneral, Hoy | Bucle),
-    informe(u"cmd_Caja4", u"Caja Diaria Formato Ticket", F, de(u"ListadoCajaTickets"), CajaTickets, Hoy | Bucle),
+    informe(u"cmd_Caja3", u"Caja General por Empleados", FConFormatos, de(u"ListadoCajaGeneral", ListadoCajaGeneral), CajaGeneral, Hoy | Bucle),
+    informe(u"cmd_Caja4", u"Caja Diaria Formato Ticket", F, de(u"ListadoCajaTickets", ListadoCajaTickets), CajaTickets, Hoy | Bucle),
     tras(prepararReimpresion,
          informe(u"cmd_Caja5", u"Re-Impresion de Facturas", dialogo(Dialogo::ReImprimir), Factura, en(u"K_factura.rpt"), Select)),
 };
