@@ -1,16 +1,17 @@
 #include "cash/listado_caja_general.h"
 
-#include "cash/caja_del_periodo.h"
+#include "cash/movimientos_de_caja.h"
 #include "cash/servicios_compartidos.h"
 #include "cash/sumas_por_empleado.h"
 #include "cash/vendedores.h"
-#include "cash/vocabulary/deudas.h"
+#include "cash/vocabulary/alcance.h"
 #include "pipeline/fragmentos_sql.h"
 #include "pipeline/sentencias_numero.h"
 
 namespace kestrane {
 
 using namespace Qt::StringLiterals;
+using namespace cash;
 
 namespace {
 
@@ -44,16 +45,13 @@ private:
     void ingresosEnDeposito();
     void familia(const FamiliaDeCaja& columnas, const SumaPorEmpleado& suma);
     void devueltoYAnulado(const FamiliaDeCaja& columnas, const SumaPorEmpleado& suma);
-    void noCobrado();
     void sumasDelPeriodo();
-    void cajaInicialYRetiradas();
     void resumen();
     void rotulosDelSabor();
     void tienda();
 
     template<class Accion>
     void porCadaSuma(const QString& sentencia, Accion accion);
-    [[nodiscard]] double valorDe(const QString& cabeza);
     void ejecuta(const QString& sentencia) { m_contexto.ConexionListados.Execute(sentencia); }
 
     Listados& m_listados;
@@ -69,10 +67,7 @@ void CajaGeneral::construye()
     ingresosEnDeposito();
     familia(familias_de_caja::Packs, sumas::Packs);
     familia(familias_de_caja::PacksSpa, sumas::PacksSpa);
-    noCobrado();
     sumasDelPeriodo();
-    if (esDeUnDia(m_contexto))
-        cajaInicialYRetiradas();
     resumen();
     rotulosDelSabor();
     tienda();
@@ -131,40 +126,14 @@ void CajaGeneral::ingresosEnDeposito()
         porCadaSuma(sentenciaAnulado(m_contexto, suma), [&](Recordset& fila) { m_saldo.IngresoDeposito += total(fila); });
 }
 
-void CajaGeneral::noCobrado()
-{
-    Recordset ventas;
-    ventas.Open(u"Select numero from cabecera_factura where fechaventa between "_s + entreFechas(m_contexto) +
-                    u" and tienda like "_s + patronTienda(m_contexto),
-                m_contexto.ConexionTienda);
-    if (ventas.RecordCount() <= 0)
-        return;
-    consultaDePagoPendiente(m_contexto).anuncia(ventas, u"numero"_s);
-    consultaDeImportePendiente().anuncia(ventas, u"numero"_s);
-    for (Recordset& venta : ventas) {
-        const Valor numero = venta.Fields(u"numero");
-        if (TienePagoPendiente(m_listados, numero))
-            m_saldo.NoCobrado += ImportePendiente(m_listados, numero);
-    }
-}
-
-/// `cabeza` + period + store.
-double CajaGeneral::valorDe(const QString& cabeza)
-{
-    return sumaDelPeriodo(m_listados, cabeza + entreFechas(m_contexto) + u" and tienda like "_s + patronTienda(m_contexto));
-}
-
 void CajaGeneral::sumasDelPeriodo()
 {
-    m_saldo.Cobros += valorDe(u"Select sum(importe) as valor from detalle_pago where fecha between "_s);
-    m_saldo.Gastos = valorDe(u"Select sum(importe) as valor from gastos where fecha between "_s);
-}
-
-void CajaGeneral::cajaInicialYRetiradas()
-{
-    m_saldo.Retiradas = valorDe(u"Select sum(importe) as valor from retiradas where fecha between "_s);
-    if (const Valor importe = importeDeCajaInicial(m_listados); !importe.esNulo())
-        m_saldo.CajaInicial = importe.doble();
+    m_saldo.NoCobrado = totalNoCobrado(m_listados);
+    m_saldo.Cobros = sumaDeImportes(m_listados, u"detalle_pago"_s);
+    m_saldo.Gastos = sumaDeImportes(m_listados, u"gastos"_s);
+    if (esDeUnDia(m_contexto))
+        m_saldo.Retiradas = sumaDeImportes(m_listados, u"retiradas"_s);
+    m_saldo.CajaInicial = cajaInicialDelDia(m_listados);
 }
 
 void CajaGeneral::resumen()

@@ -1,9 +1,10 @@
 #include "cash/listado_caja_tickets.h"
 
-#include "cash/caja_del_periodo.h"
 #include "cash/dinero_en_caja.h"
+#include "cash/movimientos_de_caja.h"
 #include "cash/notas_de_caja.h"
 #include "cash/resumen_impuestos.h"
+#include "cash/vocabulary/alcance.h"
 #include "cash/vocabulary/deudas.h"
 #include "cash/vocabulary/importes.h"
 #include "cash/vocabulary/nombres.h"
@@ -15,6 +16,7 @@
 namespace kestrane {
 
 using namespace Qt::StringLiterals;
+using namespace cash;
 
 namespace {
 
@@ -200,8 +202,7 @@ void CajaTickets::efectivoYTarjeta()
 
 void CajaTickets::gastos()
 {
-    const double total = sumaDelPeriodo(m_listados, u"Select sum(importe) as valor from gastos where fecha between "_s +
-                                                        entreFechasYTienda(u" and tienda like "));
+    const double total = sumaDeImportes(m_listados, u"gastos"_s);
     ejecutaConNumero(m_listados, u"update informes set numerico3 = -", total);
 }
 
@@ -210,15 +211,13 @@ void CajaTickets::retiradas()
 {
     double total = 0;
     if (esDeUnDia(m_contexto))
-        total = sumaDelPeriodo(m_listados, u"Select sum(importe) as valor from retiradas where fecha between "_s +
-                                               entreFechasYTienda(u" and tienda like "));
+        total = sumaDeImportes(m_listados, u"retiradas"_s);
     ejecutaConNumero(m_listados, u"update informes set numerico20 = -", total);
 }
 
 void CajaTickets::cobros()
 {
-    m_totalCobros = sumaDelPeriodo(m_listados, u"Select sum(importe) as valor from detalle_pago where fecha between "_s +
-                                                   entreFechasYTienda(u" and tienda like "));
+    m_totalCobros = sumaDeImportes(m_listados, u"detalle_pago"_s);
     ejecutaConNumero(m_listados, u"update informes set numerico12 = ", m_totalCobros);
 }
 

@@ -17,15 +17,19 @@ QString periodoYTienda(const ContextoEjecucion& contexto)
 
 } // namespace
 
-double cajaInicialDelDia(Listados& listados)
+Valor importeDeCajaInicial(Listados& listados)
 {
     const ContextoEjecucion& contexto = listados.contexto;
-    if (!esDeUnDia(contexto))
-        return 0;
     return primeraFila(listados,
                        u"Select * from caja_inicial where fecha = "_s + diaSql(contexto.FechaDesde) + u" and tienda like "_s +
                            patronTienda(contexto),
-                       0.0, [](Recordset& fila) { return fila.Fields(u"importe").doble(); });
+                       Valor{}, [](Recordset& fila) { return Valor{fila.Fields(u"importe").doble()}; });
+}
+
+double cajaInicialDelDia(Listados& listados)
+{
+    const Valor importe = esDeUnDia(listados.contexto) ? importeDeCajaInicial(listados) : Valor{};
+    return importe.esNulo() ? 0 : importe.doble();
 }
 
 double totalNoCobrado(Listados& listados)
@@ -34,6 +38,7 @@ double totalNoCobrado(Listados& listados)
     ventas.Open(u"Select numero from cabecera_factura where fechaventa between "_s + periodoYTienda(listados.contexto),
                 listados.contexto.ConexionTienda);
     consultaDePagoPendiente(listados.contexto).anuncia(ventas, u"numero"_s);
+    consultaDeImportePendiente().anuncia(ventas, u"numero"_s);
     double total = 0;
     for (Recordset& venta : ventas) {
         const Valor numero = venta.Fields(u"numero");

@@ -6,7 +6,9 @@
 /// 94, but for the sums that the database makes.
 namespace kestrane::cash {
 
-/// `importe` of the first row of `caja_inicial` on a period of one day; 0 without a row and over longer periods.
+/// `importe` of the first row of `caja_inicial` on the period's first day; Null without a row.
+[[nodiscard]] Valor importeDeCajaInicial(Listados& listados);
+/// The same on a period of one day; 0 without a row and over longer periods.
 [[nodiscard]] double cajaInicialDelDia(Listados& listados);
 /// What was left unpaid of the period's sales (`cabecera_pago`).
 [[nodiscard]] double totalNoCobrado(Listados& listados);

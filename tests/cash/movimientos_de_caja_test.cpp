@@ -1,6 +1,7 @@
 #include "cash/movimientos_de_caja.h"
 
 #include "cash/tienda_de_caja.h"
+#include "cash/vocabulary/alcance.h"
 
 #include <gtest/gtest.h>
 
@@ -23,6 +24,23 @@ TEST_F(MovimientosDeCajaTest, TheOpeningCashIsTheFirstOfTheDayAndNoneOverALonger
     EXPECT_EQ(cajaInicialDelDia(m_tienda.listados), 50.25);
     m_tienda.periodo(15, 16);
     EXPECT_EQ(cajaInicialDelDia(m_tienda.listados), 0);
+}
+
+TEST_F(MovimientosDeCajaTest, AnOpeningCashWithoutARowIsNullAndOneWithoutAnAmountEndsTheRun)
+{
+    EXPECT_EQ(importeDeCajaInicial(m_tienda.listados), Valor{});
+    m_tienda.tienda.ejecuta(u"insert into caja_inicial (fecha, tienda) values (#03/15/2024#, 'Centro')"_s);
+    EXPECT_EQ(m_tienda.error([](Listados& listados) { static_cast<void>(importeDeCajaInicial(listados)); }),
+              ErrorEjecucion::UsoNoValidoDeNull);
+}
+
+TEST_F(MovimientosDeCajaTest, APeriodIsOneDayWhateverItsTimes)
+{
+    m_tienda.contexto.FechaDesde = *Fecha::deCalendario(2024, 3, 15, 23);
+    m_tienda.contexto.FechaHasta = *Fecha::deCalendario(2024, 3, 15, 8);
+    EXPECT_TRUE(esDeUnDia(m_tienda.contexto));
+    m_tienda.contexto.FechaHasta = *Fecha::deCalendario(2024, 3, 16);
+    EXPECT_FALSE(esDeUnDia(m_tienda.contexto));
 }
 
 TEST_F(MovimientosDeCajaTest, WhatWasLeftUnpaidIsThatOfThePeriodsSales)

@@ -56,8 +56,10 @@ constexpr std::array Caja{
             porComercio(u"T_caja_diariageneral2.rpt", u"K_caja_diariageneral2.rpt"), Hoy | Bucle),
     informe(u"cmdCajaDiariaResumido", u"Caja Diaria General Resumido", F, de(u"ListadoCajaDiaria", ListadoCajaDiaria),
             porComercio(u"T_caja_diariaResumido.rpt", u"K_caja_diariaResumido.rpt"), Hoy | Bucle),
-    informe(u"cmd_Caja3", u"Caja General por Empleados", FConFormatos, de(u"ListadoCajaGeneral", ListadoCajaGeneral), CajaGeneral, Hoy | Bucle),
-    informe(u"cmd_Caja4", u"Caja Diaria Formato Ticket", F, de(u"ListadoCajaTickets", ListadoCajaTickets), CajaTickets, Hoy | Bucle),
+    informe(u"cmd_Caja3", u"Caja General por Empleados", FConFormatos, de(u"ListadoCajaGeneral", ListadoCajaGeneral), CajaGeneral,
+            Hoy | Bucle),
+    informe(u"cmd_Caja4", u"Caja Diaria Formato Ticket", F, de(u"ListadoCajaTickets", ListadoCajaTickets), CajaTickets,
+            Hoy | Bucle),
     tras(prepararReimpresion,
          informe(u"cmd_Caja5", u"Re-Impresion de Facturas", dialogo(Dialogo::ReImprimir), Factura, en(u"K_factura.rpt"), Select)),
 };
