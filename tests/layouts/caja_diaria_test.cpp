@@ -57,8 +57,10 @@ TEST_P(CajaDiaria, SaysTheVouchersInShopsAlone)
     llenaVales(m_tienda);
     const PapelDeCaja papel = imprime();
     EXPECT_EQ(bool{papel.calla(u"Vales"_s)}, !esDeComercio());
+    EXPECT_EQ(papel.filasDe.value(u"Vales"_s), esDeComercio() ? 2 : 0);
+    EXPECT_EQ(papel.filasDe.value(u"Observaciones"_s), 2);
     if (esDeComercio()) {
-        EXPECT_TRUE(papel.dice(u"20/11/2026 901 Eva Soto Abono venta = 901 3 25,50 Venta = 1003 "
+        EXPECT_TRUE(papel.dice(u"Importe Usado en 20/11/2026 901 Eva Soto Abono venta = 901 3 25,50 Venta = 1003 "
                                "20/11/2026 902 Eva Soto Abono venta = 902 3 11,90 Sin usar Vales por usar: 11,90 37,40"_s));
     }
 }

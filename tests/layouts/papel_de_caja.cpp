@@ -51,7 +51,9 @@ PapelDeCaja imprimeCaja(TiendaDePrueba& tienda, const QString& layout)
     const QString pdf = QDir{tienda.carpeta()}.filePath(u"caja.pdf"_s);
     report::Documento documento{QStringLiteral(KESTRANE_LAYOUTS) + u'/' + layout, tienda.entorno()};
     EXPECT_TRUE(report::exporta(documento, report::FormatoExportacion::Pdf, pdf));
-    PapelDeCaja papel{leePapel(pdf), {}, documento.pagina(0).tamano.width()};
+    PapelDeCaja papel{leePapel(pdf), {}, documento.pagina(0).tamano.width(), {}};
+    for (const report::DatosSubinforme& uno : documento.subinformes())
+        papel.filasDe[uno.titulo] = uno.filas.filas();
     for (const PaginaLeida& pagina : papel.paginas) {
         QStringList palabras;
         for (const Palabra& palabra : pagina)

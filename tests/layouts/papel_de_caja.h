@@ -5,14 +5,17 @@
 
 #include <gtest/gtest.h>
 
+#include <QHash>
+
 namespace kestrane::prueba {
 
 /// A cash report as it comes to paper, read back by another program.
 struct PapelDeCaja
 {
     std::vector<PaginaLeida> paginas;
-    QStringList textos; ///< of each page, words with a blank between them in the order in which they were painted
-    double ancho = 0;   ///< of the paper, in millimetres
+    QStringList textos;                ///< of each page, words with a blank between them in the order in which they were painted
+    double ancho = 0;                  ///< of the paper, in millimetres
+    QHash<QString, qsizetype> filasDe; ///< of each box, by its title; none for one without rows
 
     [[nodiscard]] QString texto() const { return textos.join(u' '); }
     /// Whether these words stand one behind the other.
