@@ -120,6 +120,18 @@ TEST_P(LayoutDeCaja, HasRoomForSumsOfAMillion)
     EXPECT_FALSE(papel.texto().contains(u'…')) << papel.texto().toStdString();
 }
 
+TEST_P(LayoutDeCaja, NamesNoColumnAndNoKeyInItsData)
+{
+    ponLinea(u"501"_s, {{u"texto20"_s, u"Ana P"_s}});
+    ponLinea(u"502"_s, {{u"texto22"_s, Nulo{}}, {u"texto23"_s, Nulo{}}, {u"texto20"_s, u"Luis G"_s}});
+    llenaObservaciones(m_tienda);
+    llenaMovimientos(m_tienda);
+    const QString datos = datosDeCaja(m_tienda, layout());
+    EXPECT_TRUE(datos.contains(u"<td"_s));
+    for (const QString& resto : {u">texto"_s, u">numerico"_s, u">zz"_s, u">1</th>"_s, u"Total 1<"_s})
+        EXPECT_FALSE(datos.contains(resto)) << resto.toStdString() << datos.toStdString();
+}
+
 INSTANTIATE_TEST_SUITE_P(Todos, LayoutDeCaja, testing::ValuesIn(nombresDeCaja()), nombreDePrueba);
 
 class LayoutDeRollo : public LayoutDeCaja

@@ -3,6 +3,7 @@
 #include "platform/report/export/exportacion.h"
 
 #include <QDir>
+#include <QFile>
 
 namespace kestrane::prueba {
 
@@ -61,6 +62,16 @@ PapelDeCaja imprimeCaja(TiendaDePrueba& tienda, const QString& layout)
         papel.textos << palabras.join(u' ');
     }
     return papel;
+}
+
+QString datosDeCaja(TiendaDePrueba& tienda, const QString& layout)
+{
+    const QString html = QDir{tienda.carpeta()}.filePath(u"caja.html"_s);
+    report::Documento documento{QStringLiteral(KESTRANE_LAYOUTS) + u'/' + layout, tienda.entorno()};
+    EXPECT_TRUE(report::exporta(documento, report::FormatoExportacion::Html, html));
+    QFile fichero{html};
+    EXPECT_TRUE(fichero.open(QIODevice::ReadOnly));
+    return QString::fromUtf8(fichero.readAll());
 }
 
 std::vector<std::string> nombresDeCaja(qsizetype desde, qsizetype cuantos)

@@ -28,6 +28,9 @@ struct PapelDeCaja
 /// Lays out the rows of the staging tables by that layout.
 [[nodiscard]] PapelDeCaja imprimeCaja(TiendaDePrueba& tienda, const QString& layout);
 
+/// The same as data: the HTML that it exports.
+[[nodiscard]] QString datosDeCaja(TiendaDePrueba& tienda, const QString& layout);
+
 /// The layouts of the till, from that place on: the day's cash four times, the general cash three times, the others.
 [[nodiscard]] std::vector<std::string> nombresDeCaja(qsizetype desde = 0, qsizetype cuantos = -1);
 [[nodiscard]] bool vaEnRollo(const QString& layout);
