@@ -2,6 +2,8 @@
 
 #include "cash/listado_albaranes.h"
 #include "cash/listado_caja_diaria.h"
+#include "cash/listado_caja_general.h"
+#include "cash/listado_caja_tickets.h"
 #include "cash/listado_formas_pago_ventas.h"
 #include "cash/listado_por_servicios.h"
 #include "listings/listado_empleados.h"
@@ -129,6 +131,8 @@ struct ConstructorEsperado
 constexpr ConstructorEsperado Construidos[] = {
     {u"cmd_Caja1", ListadoCajaDiaria},
     {u"cmdCajaDiariaResumido", ListadoCajaDiaria},
+    {u"cmd_Caja3", ListadoCajaGeneral},
+    {u"cmd_Caja4", ListadoCajaTickets},
     {u"cmd_Ventas1", ListadoPorServicios},
     {u"cmd_Ventas2", ListadoFormasPagoVentas},
     {u"cmdAlbaranes", ListadoAlbaranes},
