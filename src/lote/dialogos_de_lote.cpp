@@ -1,33 +1,20 @@
 #include "lote/dialogos_de_lote.h"
 
 #include "lote/peticion_imposible.h"
+#include "pipeline/filtros/decision_historico_clientes.h"
+#include "pipeline/filtros/decision_historico_empleados.h"
+#include "pipeline/filtros/decision_meses.h"
+#include "pipeline/filtros/decision_productos_vendidos.h"
 #include "pipeline/filtros/ordenes.h"
-#include "pipeline/filtros/utilidades.h"
-#include "pipeline/sabores.h"
 #include "platform/database/recordset.h"
+
+#include <algorithm>
 
 namespace kestrane::lote {
 
 using namespace Qt::StringLiterals;
 
-/// The buttons of a panel: the rows that fill it, and what its button for all of them reads.
-struct DialogosDeLote::Panel
-{
-    QStringView sentencia;
-    QStringView todos;
-};
-
 namespace {
-
-constexpr qint32 Todos = -1; // the code of that button
-
-constexpr DialogosDeLote::Panel PanelEmpleados{u"Select codigo,nombre,apellidos,imagen,color,emp_color from empleados where baja= "
-                                               u"false and mostrar_caja = -1 order by posicion",
-                                               u"Todos los Empleados"};
-constexpr DialogosDeLote::Panel PanelProveedores{u"Select * from Proveedores where Borrar=false order by posicion",
-                                                 u"Todos los Proveedores"};
-constexpr DialogosDeLote::Panel PanelSecciones{u"Select * from Seccion where Borrar=false order by posicion",
-                                               u"Todas las Secciones"};
 
 /// The columns of a dialog's buttons; an option of its own stands for the one with e-mail.
 std::vector<QStringView> columnas(std::span<const Orden> ordenes)
@@ -40,13 +27,27 @@ std::vector<QStringView> columnas(std::span<const Orden> ordenes)
     return lista;
 }
 
-QString tituloDeClase(const QString& clase)
+/// The option of a class of product; that for all when it is none of them.
+const OpcionDeClase& opcionDeClase(const QString& clase)
 {
-    if (clase == u"V")
-        return u"LISTADO X TIPO DE PRODUCTOS = Productos de Venta"_s;
-    if (clase == u"CI")
-        return u"LISTADO X TIPO DE PRODUCTOS = Productos de Consumo Interno"_s;
-    return clase == u"A" ? u"LISTADO X TIPO DE PRODUCTOS = Ambos"_s : u"LISTADO X TIPO DE PRODUCTOS = Todos"_s;
+    const std::span<const OpcionDeClase> opciones = opcionesDeClase();
+    const auto suya = std::ranges::find(opciones, QStringView{clase}, &OpcionDeClase::clase);
+    return suya == opciones.end() ? opciones.front() : *suya;
+}
+
+/// A dialog that does not take its answers would stay on the screen.
+void exigeAceptada(const Aceptacion& aceptacion)
+{
+    if (aceptacion.paso != Aceptacion::Paso::Aceptada)
+        throw PeticionImposible{aceptacion.motivo};
+}
+
+DecisionHistoricoClientes::Ventas ventasDe(const QString& solo)
+{
+    using Ventas = DecisionHistoricoClientes::Ventas;
+    if (solo == u"productos")
+        return Ventas::Productos;
+    return solo == u"servicios" ? Ventas::Servicios : Ventas::Ambos;
 }
 
 } // namespace
@@ -95,30 +96,19 @@ void DialogosDeLote::Muestra(Dialogo dialogo, const QString&)
     }
 }
 
-void DialogosDeLote::ponPeriodo()
-{
-    const Fecha desde = m_respuestas.dia(Respuesta::Desde);
-    const Fecha hasta = m_respuestas.dia(Respuesta::Hasta);
-    if (const QString motivo = Utilidades::ComprobarFechas(desde, hasta); !motivo.isEmpty())
-        throw PeticionImposible{motivo};
-    m_contexto.FechaDesde = desde;
-    m_contexto.FechaHasta = hasta;
-}
-
 /// The box is there only with the invoice module, and leaves the value alone while it is not ticked.
-void DialogosDeLote::ponCompleta()
+void DialogosDeLote::ponCompleta(DecisionDeFiltro& decision)
 {
     if (m_contexto.ModuloFacturas && m_respuestas.tiene(Respuesta::Completa))
-        m_contexto.CajaCompleta = true;
+        decision.completa(true);
 }
 
 void DialogosDeLote::fechas()
 {
-    m_contexto.FormatoTicket = false;
-    m_contexto.CajaCompleta = false;
-    ponCompleta();
-    ponPeriodo();
-    acepta();
+    DecisionFechas decision{m_contexto, false};
+    decision.carga();
+    ponCompleta(decision);
+    exigeAceptada(decision.acepta(false, desde(), hasta()));
 }
 
 /// The search finds clients that are not deleted.
@@ -134,81 +124,65 @@ void DialogosDeLote::buscar()
 
 void DialogosDeLote::historicoXClientes()
 {
-    Filtros& filtros = m_contexto.filtros;
-    filtros.seccion = elige(Respuesta::Seccion, PanelSecciones).codigo;
-    filtros.todasLasSecciones = filtros.seccion == -1;
-    const bool soloHayProductos = esDeAlimentacionYPerfume(m_contexto.TipoPrograma);
-    const QString solo = soloHayProductos ? u"productos"_s : m_respuestas.texto(Respuesta::Solo);
-    filtros.soloProductos = solo == u"productos";
-    filtros.soloServicios = solo == u"servicios";
-    m_contexto.FormatoTicket = m_respuestas.tiene(Respuesta::Ticket);
-    ponCompleta();
-    ponPeriodo();
-    acepta();
+    DecisionHistoricoClientes decision{m_contexto};
+    decision.carga();
+    decision.eligeSeccion(eligeCodigo(Respuesta::Seccion, PanelDe::Secciones));
+    const QString solo = decision.preguntaVentas() ? m_respuestas.texto(Respuesta::Solo) : QString{};
+    decision.eligeFormato(m_respuestas.tiene(Respuesta::Ticket));
+    ponCompleta(decision);
+    exigeAceptada(decision.acepta(desde(), hasta(), ventasDe(solo)));
 }
 
 void DialogosDeLote::historicoXEmpleados()
 {
-    m_contexto.CajaCompleta = false;
-    m_contexto.filtros.empleado = elige(Respuesta::Empleado, PanelEmpleados).codigo;
-    m_contexto.filtros.totalizado = m_respuestas.tiene(Respuesta::Totalizado);
-    m_contexto.FormatoTicket = m_respuestas.tiene(Respuesta::Ticket);
-    ponCompleta();
-    ponPeriodo();
-    acepta();
+    DecisionHistoricoEmpleados decision{m_contexto};
+    decision.carga();
+    decision.eligeEmpleado(eligeCodigo(Respuesta::Empleado, PanelDe::Empleados));
+    if (m_respuestas.tiene(Respuesta::Totalizado))
+        decision.totaliza();
+    else
+        decision.detalla();
+    decision.eligeFormato(m_respuestas.tiene(Respuesta::Ticket));
+    ponCompleta(decision);
+    exigeAceptada(decision.acepta(desde(), hasta()));
 }
 
 void DialogosDeLote::filtrosProductos()
 {
-    Filtros& filtros = m_contexto.filtros;
-    filtros.seccion = filtros.proveedor = filtros.proveedorBajoMinimos = -1;
-    filtros.claseProducto.clear();
+    DecisionFiltrosProductos decision{m_contexto};
+    decision.carga();
     // Under the minimum alone the page with the filters is passed over, title and all.
     if (m_contexto.SoloBajoMinimos)
-        filtros.bajoMinimos = true;
-    else if (m_respuestas.tiene(Respuesta::BajoMinimos))
-        eligeBajoMinimos();
+        decision.acepta(BloqueProductos::BajoMinimo);
     else
-        eligeProductos();
-    filtros.columnaOrden = m_respuestas.columnaDeOrden(columnas(ordenesDeProductos()));
+        eligeProductos(decision);
+    m_contexto.filtros.columnaOrden = m_respuestas.columnaDeOrden(columnas(ordenesDeProductos()));
     acepta();
 }
 
-void DialogosDeLote::eligeBajoMinimos()
+/// One block of the page: one choice in it, and its accept button.
+void DialogosDeLote::eligeProductos(DecisionFiltrosProductos& decision)
 {
-    Filtros& filtros = m_contexto.filtros;
-    filtros.bajoMinimos = true;
-    const Eleccion proveedor = elige(Respuesta::Proveedor, PanelProveedores);
-    filtros.proveedorBajoMinimos = proveedor.codigo;
-    filtros.titulo = u"LISTADO DE PRODUCTOS BAJO MINIMOX Proveedor = "_s + proveedor.nombre;
-}
-
-/// One block of the page: the last one that the operator accepts clears the others.
-void DialogosDeLote::eligeProductos()
-{
-    Filtros& filtros = m_contexto.filtros;
-    filtros.bajoMinimos = false;
-    if (m_respuestas.tiene(Respuesta::Proveedor)) {
-        const Eleccion proveedor = elige(Respuesta::Proveedor, PanelProveedores);
-        filtros.proveedor = proveedor.codigo;
-        filtros.titulo = u"LISTADO DE PRODUCTOS X PROVEEDOR = "_s + proveedor.nombre;
-        return;
-    }
-    if (m_respuestas.tiene(Respuesta::Seccion)) {
-        const Eleccion seccion = elige(Respuesta::Seccion, PanelSecciones);
-        filtros.seccion = seccion.codigo;
-        filtros.titulo = u"LISTADO DE PRODUCTOS X SECCIONES = "_s + seccion.nombre;
-        return;
-    }
-    filtros.claseProducto = m_respuestas.texto(Respuesta::Clase);
-    filtros.titulo = tituloDeClase(filtros.claseProducto);
+    const auto eligeEn = [&](BloqueProductos bloque, Respuesta respuesta, PanelDe panel) {
+        decision.elige(bloque, elige(respuesta, panel));
+        decision.acepta(bloque);
+    };
+    if (m_respuestas.tiene(Respuesta::BajoMinimos))
+        return eligeEn(BloqueProductos::BajoMinimo, Respuesta::Proveedor, PanelDe::Proveedores);
+    if (m_respuestas.tiene(Respuesta::Proveedor))
+        return eligeEn(BloqueProductos::Proveedor, Respuesta::Proveedor, PanelDe::Proveedores);
+    if (m_respuestas.tiene(Respuesta::Seccion))
+        return eligeEn(BloqueProductos::Seccion, Respuesta::Seccion, PanelDe::Secciones);
+    decision.eligeClase(opcionDeClase(m_respuestas.texto(Respuesta::Clase)));
+    decision.acepta(BloqueProductos::Tipo);
 }
 
 void DialogosDeLote::productosVendidos()
 {
-    m_contexto.filtros.empleado = elige(Respuesta::Empleado, PanelEmpleados).codigo;
-    m_contexto.filtros.proveedor = elige(Respuesta::Proveedor, PanelProveedores).codigo;
-    acepta();
+    DecisionProductosVendidos decision{m_contexto};
+    decision.eligeEmpleado(eligeCodigo(Respuesta::Empleado, PanelDe::Empleados));
+    decision.eligeProveedor(eligeCodigo(Respuesta::Proveedor, PanelDe::Proveedores));
+    decision.acepta();
 }
 
 void DialogosDeLote::ordenClientes()
@@ -221,16 +195,16 @@ void DialogosDeLote::ordenClientes()
 
 void DialogosDeLote::clientesPerdidos()
 {
-    m_contexto.FechaDesde = m_respuestas.dia(Respuesta::Desde);
-    acepta();
+    aceptaDesde(m_contexto, desde());
 }
 
 void DialogosDeLote::meses()
 {
-    m_contexto.CajaCompleta = m_respuestas.tiene(Respuesta::Completa); // here the box stands in every shop
-    m_contexto.filtros.mes = static_cast<qint16>(m_respuestas.numero(Respuesta::Mes, m_reloj.hoy().mes()));
-    m_contexto.filtros.anio = static_cast<qint16>(m_respuestas.numero(Respuesta::Anio, m_reloj.hoy().anio()));
-    acepta();
+    DecisionMeses decision{m_contexto, m_reloj};
+    decision.carga();
+    decision.completa(m_respuestas.tiene(Respuesta::Completa)); // here the box stands in every shop
+    decision.pon(m_respuestas.numero(Respuesta::Mes, decision.mes()), m_respuestas.numero(Respuesta::Anio, decision.anio()));
+    decision.acepta();
 }
 
 void DialogosDeLote::reImprimir()
@@ -254,18 +228,16 @@ void DialogosDeLote::noOfrece(const QString& codigo) const
     throw PeticionImposible{u"%1 no ofrece el código %2."_s.arg(m_respuestas.control(), codigo)};
 }
 
-DialogosDeLote::Eleccion DialogosDeLote::elige(Respuesta respuesta, const Panel& panel)
+ElementoPanel DialogosDeLote::elige(Respuesta respuesta, PanelDe panel)
 {
-    const qint32 codigo = m_respuestas.numero(respuesta, Todos);
-    if (codigo == Todos)
-        return {Todos, panel.todos.toString()};
-    Recordset filas;
-    filas.Open(panel.sentencia.toString(), m_contexto.ConexionTienda);
-    for (Recordset& fila : filas) {
-        const Valor suyo = fila.Fields(u"codigo");
-        const Valor nombre = fila.Fields(u"nombre");
-        if (!suyo.esNulo() && suyo.entero32() == codigo)
-            return {codigo, nombre.esNulo() ? QString{} : nombre.texto()};
+    const qint32 codigo = m_respuestas.numero(respuesta, CodigoDeTodos);
+    if (codigo == CodigoDeTodos)
+        return elementoDeTodos(panel);
+    const ArrayPanel elementos = cargaPanel(m_contexto, panel, BotonDeTodos::Con, {});
+    const int ultimo = elementos.reservado() ? elementos.limiteSuperior() : 0;
+    for (int lugar = 1; lugar <= ultimo; ++lugar) {
+        if (codigoDe(elementos[lugar]) == codigo)
+            return elementos[lugar];
     }
     noOfrece(QString::number(codigo));
 }

@@ -1,6 +1,9 @@
 #pragma once
 
 #include "lote/respuestas_dadas.h"
+#include "pipeline/filtros/decision_fechas.h"
+#include "pipeline/filtros/decision_filtros_productos.h"
+#include "pipeline/filtros/paneles.h"
 
 namespace kestrane::lote {
 
@@ -8,8 +11,6 @@ namespace kestrane::lote {
 class DialogosDeLote final : public Dialogos
 {
 public:
-    struct Panel;
-
     /// All three outlive the object.
     DialogosDeLote(ContextoEjecucion& contexto, const PedidoInforme& pedido, const Reloj& reloj);
 
@@ -22,16 +23,17 @@ public:
 
 private:
     void acepta() { m_contexto.FiltroAceptado = true; }
-    void ponPeriodo();
-    void ponCompleta();
+    void ponCompleta(DecisionDeFiltro& decision);
+    /// The day that was given, today when none was.
+    [[nodiscard]] Fecha desde() { return m_respuestas.dia(Respuesta::Desde); }
+    [[nodiscard]] Fecha hasta() { return m_respuestas.dia(Respuesta::Hasta); }
 
     void fechas();
     void buscar();
     void historicoXClientes();
     void historicoXEmpleados();
     void filtrosProductos();
-    void eligeProductos();
-    void eligeBajoMinimos();
+    void eligeProductos(DecisionFiltrosProductos& decision);
     void productosVendidos();
     void ordenClientes();
     void clientesPerdidos();
@@ -39,15 +41,10 @@ private:
     void reImprimir();
     void etiquetasClientes();
 
-    /// A press on a panel's button.
-    struct Eleccion
-    {
-        qint32 codigo = -1;
-        QString nombre;
-    };
-
-    /// The button that the option of `respuesta` names, that for all when it was not given. PeticionImposible when there is none.
-    [[nodiscard]] Eleccion elige(Respuesta respuesta, const Panel& panel);
+    /// The button of a panel that the option of `respuesta` names, that for all when it was not given. PeticionImposible when there
+    /// is none.
+    [[nodiscard]] ElementoPanel elige(Respuesta respuesta, PanelDe panel);
+    [[nodiscard]] qint32 eligeCodigo(Respuesta respuesta, PanelDe panel) { return codigoDe(elige(respuesta, panel)); }
     [[noreturn]] void noOfrece(const QString& codigo) const;
 
     ContextoEjecucion& m_contexto;

@@ -6,16 +6,16 @@ namespace kestrane {
 
 void DecisionFechas::carga()
 {
-    m_contexto.FormatoTicket = false;
-    m_contexto.FiltroAceptado = false;
-    m_contexto.CajaCompleta = false;
+    eligeFormato(false);
+    sale();
+    completa(false);
 }
 
 Aceptacion DecisionFechas::acepta(bool formatosALaVista, Fecha desde, Fecha hasta)
 {
     if (m_conFormatos && !formatosALaVista)
         return {Aceptacion::Paso::PideFormato, {}};
-    return aceptaPeriodo(m_contexto, desde, hasta);
+    return aceptaPeriodo(contexto(), desde, hasta);
 }
 
 Aceptacion aceptaPeriodo(ContextoEjecucion& contexto, Fecha desde, Fecha hasta)
@@ -26,6 +26,12 @@ Aceptacion aceptaPeriodo(ContextoEjecucion& contexto, Fecha desde, Fecha hasta)
     contexto.FechaHasta = hasta;
     contexto.FiltroAceptado = true;
     return {Aceptacion::Paso::Aceptada, {}};
+}
+
+void aceptaDesde(ContextoEjecucion& contexto, Fecha desde)
+{
+    contexto.FechaDesde = desde;
+    contexto.FiltroAceptado = true;
 }
 
 } // namespace kestrane

@@ -80,5 +80,14 @@ TEST_F(DecisionFechasTest, LeavingIsNoAcceptanceAndKeepsThePeriod)
     EXPECT_EQ(m_contexto.FechaDesde, dia(3));
 }
 
+TEST_F(DecisionFechasTest, AFirstDayAloneIsStoredWithoutACheckThoughItIsStillToCome)
+{
+    m_contexto.FechaHasta = dia(2);
+    aceptaDesde(m_contexto, dia(31));
+    EXPECT_EQ(m_contexto.FechaDesde, dia(31));
+    EXPECT_EQ(m_contexto.FechaHasta, dia(2));
+    EXPECT_TRUE(m_contexto.FiltroAceptado);
+}
+
 } // namespace
 } // namespace kestrane
