@@ -6,6 +6,9 @@
 #include <QImageReader>
 #include <QPainter>
 #include <QPainterPath>
+#include <QTextLayout>
+
+#include <cmath>
 
 namespace kestrane {
 
@@ -17,7 +20,8 @@ constexpr int LadoImagen = 48;
 constexpr int Margen = 8;
 constexpr qreal Radio = 8;
 constexpr int LetrasPorFicha = 20;
-constexpr int Formato = static_cast<int>(Qt::AlignVCenter | Qt::AlignLeft) | Qt::TextWordWrap | Qt::TextWrapAnywhere;
+constexpr int AnchoDeMarca = 5; ///< of the bar at the left of a marked one
+constexpr double SinFin = 10000;
 
 /// Read no larger than it is shown; nothing for a file that is missing, broken or of another kind.
 QPixmap lee(const QString& ruta, qreal densidad)
@@ -31,6 +35,36 @@ QPixmap lee(const QString& ruta, qreal densidad)
     QPixmap imagen = QPixmap::fromImageReader(&lector);
     imagen.setDevicePixelRatio(densidad);
     return imagen;
+}
+
+/// Between words, and within one that no line holds.
+QTextOption enLineas()
+{
+    QTextOption opcion{Qt::AlignVCenter | Qt::AlignLeft};
+    opcion.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    return opcion;
+}
+
+/// How high the text is in lines of that width.
+int altoDeTexto(const QString& texto, const QFont& letra, int ancho)
+{
+    QTextLayout lineas{texto, letra};
+    lineas.setTextOption(enLineas());
+    lineas.beginLayout();
+    double alto = 0;
+    for (QTextLine linea = lineas.createLine(); linea.isValid() && alto < SinFin; linea = lineas.createLine()) {
+        linea.setLineWidth(ancho);
+        alto += linea.height();
+    }
+    lineas.endLayout();
+    return static_cast<int>(std::ceil(alto));
+}
+
+/// As it is written while it is marked, when it takes most room.
+QFont negrita(QFont letra)
+{
+    letra.setBold(true);
+    return letra;
 }
 
 /// How bright an eye finds the colour: 0 to 1.
@@ -80,8 +114,7 @@ QSize Ficha::sizeHint() const
 
 int Ficha::heightForWidth(int ancho) const
 {
-    const QRect sitio{0, 0, std::max(1, ancho - 2 * Margen - anchoDeImagen()), 10000};
-    const int alto = fontMetrics().boundingRect(sitio, Formato, m_elemento.Texto).height();
+    const int alto = altoDeTexto(m_elemento.Texto, negrita(font()), std::max(1, ancho - 2 * Margen - anchoDeImagen()));
     return std::max({LadoTactil, alto + Margen, conImagen() ? LadoImagen + Margen : 0});
 }
 
@@ -92,20 +125,40 @@ void Ficha::paintEvent(QPaintEvent*)
     QColor fondo = m_color.isValid() ? m_color : palette().color(QPalette::Button);
     if (isDown() || underMouse())
         fondo = fondo.lightnessF() > 0.5 ? fondo.darker(isDown() ? 118 : 106) : fondo.lighter(isDown() ? 140 : 115);
-    const bool senalada = isChecked() || hasFocus();
-    pintor.setPen(QPen{palette().color(senalada ? QPalette::Highlight : QPalette::Mid), senalada ? 3.0 : 1.0});
+    const QRectF caja = QRectF{rect()}.adjusted(1.5, 1.5, -1.5, -1.5);
+    pintor.setPen(borde());
     pintor.setBrush(fondo);
-    pintor.drawRoundedRect(QRectF{rect()}.adjusted(1.5, 1.5, -1.5, -1.5), Radio, Radio);
+    pintor.drawRoundedRect(caja, Radio, Radio);
+    if (isChecked())
+        pintaMarca(pintor, caja);
     if (conImagen()) {
-        QRectF caja{QPointF{}, m_imagen.deviceIndependentSize()};
-        caja.moveCenter({Margen + LadoImagen / 2.0, height() / 2.0});
-        pintor.drawPixmap(caja.topLeft(), m_imagen);
+        QRectF sitio{QPointF{}, m_imagen.deviceIndependentSize()};
+        sitio.moveCenter({Margen + LadoImagen / 2.0, height() / 2.0});
+        pintor.drawPixmap(sitio.topLeft(), m_imagen);
     }
     pintor.setPen(colorDeTexto());
-    QFont letra = font();
-    letra.setBold(isChecked());
-    pintor.setFont(letra);
-    pintor.drawText(rect().adjusted(Margen + anchoDeImagen(), 0, -Margen, 0), Formato, m_elemento.Texto);
+    pintor.setFont(isChecked() ? negrita(font()) : font());
+    pintor.drawText(QRectF{rect().adjusted(Margen + anchoDeImagen(), 0, -Margen, 0)}, m_elemento.Texto, enLineas());
+}
+
+/// The keyboard's ring, the thick border of the marked one, or a thin one.
+QPen Ficha::borde() const
+{
+    constexpr double Grueso = 3;
+    if (isChecked())
+        return QPen{palette().color(hasFocus() ? QPalette::Link : QPalette::Highlight), Grueso};
+    return hasFocus() ? QPen{palette().color(QPalette::Link), 2} : QPen{palette().color(QPalette::Mid), 1};
+}
+
+/// So that it tells apart from the one that has the keyboard.
+void Ficha::pintaMarca(QPainter& pintor, const QRectF& caja) const
+{
+    QPainterPath redondeada;
+    redondeada.addRoundedRect(caja, Radio, Radio);
+    pintor.save();
+    pintor.setClipPath(redondeada);
+    pintor.fillRect(QRectF{caja.left(), caja.top(), AnchoDeMarca, caja.height()}, palette().color(QPalette::Highlight));
+    pintor.restore();
 }
 
 } // namespace kestrane

@@ -2,6 +2,7 @@
 
 #include "run_context/elemento_panel.h"
 
+#include <QPen>
 #include <QPushButton>
 
 namespace kestrane {
@@ -31,6 +32,8 @@ protected:
 
 private:
     [[nodiscard]] int anchoDeImagen() const;
+    [[nodiscard]] QPen borde() const;
+    void pintaMarca(QPainter& pintor, const QRectF& caja) const;
 
     ElementoPanel m_elemento;
     QPixmap m_imagen;

@@ -49,6 +49,13 @@ void TilePanel::usaColores(bool si)
     pinta();
 }
 
+void TilePanel::pulsaConEnter()
+{
+    m_pulsaConEnter = true;
+    for (Ficha* const ficha : m_fichas)
+        ficha->setAutoDefault(true);
+}
+
 void TilePanel::da(const ArrayPanel& elementos)
 {
     m_elegida = nullptr;
@@ -68,6 +75,7 @@ void TilePanel::anade(const ElementoPanel& elemento)
         return;
     auto* const ficha = new Ficha{elemento, m_lienzo};
     ficha->setCheckable(true);
+    ficha->setAutoDefault(m_pulsaConEnter);
     ficha->show();
     connect(ficha, &QPushButton::clicked, this, [this, ficha] { elige(ficha); });
     m_fichas += ficha;
@@ -86,6 +94,19 @@ void TilePanel::elige(Ficha* ficha)
 const ElementoPanel* TilePanel::elegido() const
 {
     return m_elegida ? &m_elegida->elemento() : nullptr;
+}
+
+void TilePanel::desmarca()
+{
+    m_elegida = nullptr;
+    for (Ficha* const ficha : m_fichas)
+        ficha->setChecked(false);
+}
+
+void TilePanel::enfoca()
+{
+    if (!m_fichas.isEmpty())
+        m_fichas.first()->setFocus();
 }
 
 void TilePanel::pinta()

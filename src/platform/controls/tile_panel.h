@@ -23,11 +23,17 @@ public:
     void ponColores(const QColor& boton, const QColor& fondo);
     /// Whether the elements' own colours are used (as they are unless this says otherwise); a text that is no colour never is.
     void usaColores(bool si);
+    /// From here on Enter presses the button that has the keyboard; before, it is left to the window.
+    void pulsaConEnter();
     /// Takes the whole array, from its lower bound to its upper one; an unallocated one shows nothing.
     void da(const ArrayPanel& elementos);
 
     /// The element marked last, nullptr when none was pressed since the array came.
     [[nodiscard]] const ElementoPanel* elegido() const;
+    /// No element is marked any more.
+    void desmarca();
+    /// The keyboard goes to its first button.
+    void enfoca();
     /// The buttons in the order of their elements.
     [[nodiscard]] const QList<Ficha*>& fichas() const { return m_fichas; }
 
@@ -52,6 +58,7 @@ private:
     Ficha* m_elegida = nullptr;
     QColor m_colorBoton;
     bool m_usaColores = true;
+    bool m_pulsaConEnter = false;
 };
 
 } // namespace kestrane

@@ -30,6 +30,28 @@ TEST(FichaTest, ANameOfSixtyLettersIsBrokenAndNotCut)
     EXPECT_EQ(Ficha(elemento(u"Ana"_s), nullptr).heightForWidth(150), 44);
 }
 
+TEST(FichaTest, WordsStayWholeWhereALineHoldsThem)
+{
+    const Ficha ficha{elemento(u"mmmmmm mmmmmm mmmmmm"_s), nullptr};
+    QFont negrita = ficha.font();
+    negrita.setBold(true);
+    const QFontMetrics metrica{negrita};
+    const int nueveLetras = metrica.horizontalAdvance(QString{9, u'm'}) + 16; // two words on two lines would leave one cut
+    EXPECT_GE(ficha.heightForWidth(nueveLetras), 3 * metrica.height());
+}
+
+TEST(FichaTest, TheMarkedOneHasABarWhichTheKeyboardsDoesNot)
+{
+    Ficha ficha{elemento(u"Ana"_s), nullptr};
+    ficha.setCheckable(true);
+    ficha.resize(150, 44);
+    const auto izquierda = [&ficha] { return ficha.grab().toImage().pixelColor(4, 22); };
+    const QColor marca = ficha.palette().color(QPalette::Highlight);
+    EXPECT_NE(izquierda(), marca);
+    ficha.setChecked(true);
+    EXPECT_EQ(izquierda(), marca);
+}
+
 TEST(FichaTest, LettersAreBlackOnLightColoursAndWhiteOnDarkOnes)
 {
     Ficha ficha{elemento(u"Ana"_s), nullptr};

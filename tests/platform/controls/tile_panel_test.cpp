@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDialog>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
@@ -108,6 +109,37 @@ TEST_F(TilePanelTest, TwoHundredElementsAreScrolledAndNoneOverlaps)
         for (qsizetype j = i + 1; j < std::min(i + 10, fichas.size()); ++j)
             EXPECT_FALSE(fichas[i]->geometry().intersects(fichas[j]->geometry()));
     }
+}
+
+TEST_F(TilePanelTest, TheMarkIsTakenBack)
+{
+    da(3);
+    muestra({500, 300});
+    QTest::mouseClick(panel.fichas()[1], Qt::LeftButton);
+    panel.desmarca();
+    EXPECT_EQ(panel.elegido(), nullptr);
+    EXPECT_FALSE(panel.fichas()[1]->isChecked());
+}
+
+TEST_F(TilePanelTest, EnterPressesItsButtonsWhereItIsToldSo)
+{
+    QDialog ventana;
+    TilePanel suyo{u"PanelTiendas"_s, &ventana};
+    ArrayPanel elementos;
+    elementos.reserva(1);
+    elementos[0].Texto = u"Sur"_s;
+    elementos[1].Texto = u"Norte"_s;
+    suyo.da(elementos);
+    suyo.resize(300, 200);
+    ventana.show();
+    const QSignalSpy pulsaciones{&suyo, &TilePanel::pulsado};
+    suyo.enfoca();
+    EXPECT_EQ(ventana.focusWidget(), suyo.fichas()[0]);
+    QTest::keyClick(suyo.fichas()[0], Qt::Key_Return);
+    EXPECT_EQ(pulsaciones.count(), 0);
+    suyo.pulsaConEnter();
+    QTest::keyClick(suyo.fichas()[0], Qt::Key_Return);
+    EXPECT_EQ(pulsaciones.count(), 1);
 }
 
 } // namespace
