@@ -1,6 +1,7 @@
 #include "dialogs/dibujos_formato.h"
 
-#include <QPainter>
+#include "dialogs/icono_dibujado.h"
+
 #include <QPainterPath>
 
 namespace kestrane {
@@ -8,7 +9,6 @@ namespace kestrane {
 namespace {
 
 constexpr int Lado = 96;
-constexpr qreal Grosor = 3;
 constexpr int Lineas = 4;
 
 /// With its corner folded.
@@ -48,21 +48,15 @@ QPainterPath tira(const QRectF& caja)
 
 QIcon dibujoDeFormato(bool ticket, const QColor& color)
 {
-    constexpr int Densidad = 2;
-    QPixmap dibujo{Lado * Densidad, Lado * Densidad};
-    dibujo.setDevicePixelRatio(Densidad);
-    dibujo.fill(Qt::transparent);
-    QPainter pintor{&dibujo};
-    pintor.setRenderHint(QPainter::Antialiasing);
-    pintor.setPen(QPen{color, Grosor, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin});
-    const QRectF caja = ticket ? QRectF{28, 6, 40, 84} : QRectF{16, 6, 64, 84};
-    pintor.drawPath(ticket ? tira(caja) : folio(caja));
-    const qreal margen = ticket ? 8 : 12;
-    for (int linea = 0; linea < Lineas; ++linea) {
-        const qreal y = caja.top() + 30 + 12 * linea;
-        pintor.drawLine(QPointF{caja.left() + margen, y}, QPointF{caja.right() - margen, y});
-    }
-    return QIcon{dibujo};
+    return iconoDibujado(Lado, color, [ticket](QPainter& pintor) {
+        const QRectF caja = ticket ? QRectF{28, 6, 40, 84} : QRectF{16, 6, 64, 84};
+        pintor.drawPath(ticket ? tira(caja) : folio(caja));
+        const qreal margen = ticket ? 8 : 12;
+        for (int linea = 0; linea < Lineas; ++linea) {
+            const qreal y = caja.top() + 30 + 12 * linea;
+            pintor.drawLine(QPointF{caja.left() + margen, y}, QPointF{caja.right() - margen, y});
+        }
+    });
 }
 
 } // namespace kestrane

@@ -21,6 +21,9 @@ public:
 
     [[nodiscard]] TilePanel& panel() { return *m_panel; }
 
+    /// It yields to what stands beside it: a layout would insist on the height that it would like to have.
+    [[nodiscard]] bool hasHeightForWidth() const override { return false; }
+
 signals:
     /// A store was pressed and is chosen.
     void elegida();

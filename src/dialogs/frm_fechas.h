@@ -1,11 +1,10 @@
 #pragma once
 
+#include "dialogs/boton_dibujado.h"
+#include "dialogs/eleccion_de_periodo.h"
 #include "dialogs/eleccion_de_tienda.h"
 #include "dialogs/forma_filtro.h"
 #include "pipeline/filtros/decision_fechas.h"
-#include "platform/controls/calendario.h"
-
-#include <QCheckBox>
 
 namespace kestrane {
 
@@ -33,10 +32,8 @@ protected:
 
 private:
     void monta();
-    [[nodiscard]] QWidget* calendarios();
-    [[nodiscard]] QWidget* periodosRapidos();
     [[nodiscard]] QFrame* formatos();
-    [[nodiscard]] QWidget* formato(const QString& boton, const QString& rotulo, bool ticket);
+    [[nodiscard]] BotonDibujado* formato(const QString& boton, const QString& rotulo, bool ticket, QWidget* padre);
     void acepta();
     void aceptaEnFormato(bool ticket);
     void ensenaFormatos();
@@ -47,11 +44,11 @@ private:
     QFrame* m_frame4 = nullptr;
     QFrame* m_frFiltros = nullptr;
     QFrame* m_frFormatos = nullptr;
-    Calendario* m_desde = nullptr;
-    Calendario* m_hasta = nullptr;
+    EleccionDePeriodo* m_periodo = nullptr;
     QCheckBox* m_completo = nullptr;
     EleccionDeTienda* m_tienda = nullptr;
-    QPushButton* m_folio = nullptr;
+    BotonDibujado* m_folio = nullptr;
+    BotonDibujado* m_ticket = nullptr;
 };
 
 } // namespace kestrane

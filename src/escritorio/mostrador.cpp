@@ -1,7 +1,14 @@
 #include "escritorio/mostrador.h"
 
 #include "dialogs/formas_de_orden.h"
+#include "dialogs/fr_clientes_perdidos.h"
 #include "dialogs/frm_fechas.h"
+#include "dialogs/frm_filtros_productos.h"
+#include "dialogs/frm_historico_x_clientes.h"
+#include "dialogs/frm_historico_x_empleados.h"
+#include "dialogs/frm_meses.h"
+#include "dialogs/frm_productos_vendidos.h"
+#include "dialogs/frm_sel_tienda.h"
 #include "platform/report/export/exportacion.h"
 
 namespace kestrane::escritorio {
@@ -34,8 +41,18 @@ void Mostrador::ofreceDialogos(const ServiciosDialogo& servicios)
     m_dialogos.ofrece(Dialogo::FechasConFormatos, [servicios](const QString& titulo) {
         muestraModal<FrmFechas>(servicios, PreparacionFechas{.ConFormatos = true, .Titulo = titulo});
     });
-    m_dialogos.ofrece(Dialogo::OrdenClientes, [servicios](const QString&) { muestraModal<FrmOrdenClientes>(servicios); });
-    m_dialogos.ofrece(Dialogo::OrdenServicios, [servicios](const QString&) { muestraModal<FrmOrdenServicios>(servicios); });
+    const auto ofrece = [&]<class Forma>(Dialogo dialogo, std::type_identity<Forma>) {
+        m_dialogos.ofrece(dialogo, [servicios](const QString&) { muestraModal<Forma>(servicios); });
+    };
+    ofrece(Dialogo::ClientesPerdidos, std::type_identity<FrClientesPerdidos>{});
+    ofrece(Dialogo::FiltrosProductos, std::type_identity<FrmFiltrosProductos>{});
+    ofrece(Dialogo::HistoricoXClientes, std::type_identity<FrmHistoricoXClientes>{});
+    ofrece(Dialogo::HistoricoXEmpleados, std::type_identity<FrmHistoricoXEmpleados>{});
+    ofrece(Dialogo::Meses, std::type_identity<FrmMeses>{});
+    ofrece(Dialogo::OrdenClientes, std::type_identity<FrmOrdenClientes>{});
+    ofrece(Dialogo::OrdenServicios, std::type_identity<FrmOrdenServicios>{});
+    ofrece(Dialogo::ProductosVendidos, std::type_identity<FrmProductosVendidos>{});
+    ofrece(Dialogo::SelTienda, std::type_identity<FrmSelTienda>{});
 }
 
 } // namespace kestrane::escritorio

@@ -141,6 +141,36 @@ TEST_F(MostradorTest, TheListingOfServicesGoesThroughItsDialog)
     EXPECT_EQ(vistas(), 1U);
 }
 
+TEST_F(MostradorTest, EachDialogIsOfferedUnderItsNameAndGoneWhenItIsLeft)
+{
+    const std::pair<Dialogo, QString> casos[] = {
+        {Dialogo::Fechas, u"frmFechas"_s},
+        {Dialogo::FechasConFormatos, u"frmFechas"_s},
+        {Dialogo::HistoricoXClientes, u"frmHistoricoXClientes"_s},
+        {Dialogo::HistoricoXEmpleados, u"frmHistoricoXEmpleados"_s},
+        {Dialogo::FiltrosProductos, u"frmFiltrosProductos"_s},
+        {Dialogo::ProductosVendidos, u"frmProductosVendidos"_s},
+        {Dialogo::OrdenClientes, u"FrmOrdenClientes"_s},
+        {Dialogo::OrdenServicios, u"frmOrdenServicios"_s},
+        {Dialogo::ClientesPerdidos, u"frClientesPerdidos"_s},
+        {Dialogo::Meses, u"frmMeses"_s},
+        {Dialogo::SelTienda, u"frmSelTienda"_s},
+    };
+    for (const auto& [dialogo, nombre] : casos) {
+        ASSERT_TRUE(m_mostrador.dialogos().Existe(dialogo)) << nombre.toStdString();
+        QString mostrado;
+        QTimer::singleShot(0, &m_mostrador.menu(), [&mostrado] {
+            if (QWidget* const abierto = QApplication::activeModalWidget()) {
+                mostrado = abierto->objectName();
+                QTest::keyClick(abierto, Qt::Key_Escape);
+            }
+        });
+        m_mostrador.dialogos().Muestra(dialogo, {});
+        EXPECT_EQ(mostrado, nombre);
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    }
+}
+
 TEST_F(MostradorTest, AListingWhoseDialogIsLeftIsNotBuilt)
 {
     QTimer::singleShot(0, &m_mostrador.menu(), [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });

@@ -12,9 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double MargenIzquierdo = 50; ///< twips, as the next
-constexpr double MargenSuperior = 330;
-
 QLabel* rotulo(const QString& nombre, const QString& texto, QWidget* padre)
 {
     auto* nuevo = new QLabel{texto, padre};
@@ -50,7 +47,7 @@ VentanaConBarra::VentanaConBarra(const QString& nombre, const ContextoEjecucion&
     columna->setSpacing(14);
     columna->addWidget(rotulo(u"Label1"_s, u"Generando Reporte"_s, this));
     columna->addWidget(m_barra);
-    coloca(aspecto);
+    move(esquinaDeVentanaPequena(aspecto));
     viste(aspecto);
     escala(contexto, aspecto);
 }
@@ -65,11 +62,6 @@ void VentanaConBarra::anadeRotuloOculto(const QString& texto)
 void VentanaConBarra::keyPressEvent(QKeyEvent* evento)
 {
     evento->ignore();
-}
-
-void VentanaConBarra::coloca(const AspectoVentanas& aspecto)
-{
-    move(aspecto.esquinaPrincipal() + QPointF{puntosDeTwips(MargenIzquierdo), puntosDeTwips(MargenSuperior)}.toPoint());
 }
 
 void VentanaConBarra::viste(AspectoVentanas& aspecto)

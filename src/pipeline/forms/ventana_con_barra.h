@@ -27,7 +27,6 @@ protected:
     void keyPressEvent(QKeyEvent* evento) override;
 
 private:
-    void coloca(const AspectoVentanas& aspecto);
     void viste(AspectoVentanas& aspecto);
     void escala(const ContextoEjecucion& contexto, AspectoVentanas& aspecto);
 

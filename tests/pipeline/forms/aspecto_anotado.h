@@ -30,6 +30,10 @@ public:
         pasos += QStringLiteral("DarColorBoton");
         return QStringLiteral("255"); // red
     }
+    [[nodiscard]] QString DarColorPredefinido1() override { return predefinido(1); }
+    [[nodiscard]] QString DarColorPredefinido2() override { return predefinido(2); }
+    [[nodiscard]] QString DarColorPredefinido3() override { return predefinido(3); }
+    [[nodiscard]] QString DarColorPredefinido4() override { return predefinido(4); }
     void AplicarLetra(QWidget& ventana) override { pasos += QStringLiteral("AplicarLetra ") + ventana.objectName(); }
     void AplicarPermisos(QWidget& ventana) override
     {
@@ -51,6 +55,14 @@ public:
     QPoint esquina{100, 200};
     QString fondo{QStringLiteral("16776960")}; // cyan;
     QStringList pasos;
+
+private:
+    /// Reds: 1, 2, 3, 4.
+    [[nodiscard]] QString predefinido(int cual)
+    {
+        pasos += QStringLiteral("DarColorPredefinido%1").arg(cual);
+        return QString::number(cual);
+    }
 };
 
 } // namespace kestrane::prueba

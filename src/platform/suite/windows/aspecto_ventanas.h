@@ -52,6 +52,14 @@ public:
     virtual void AplicarPermisos(QWidget& ventana) = 0;
 };
 
+/// Where the small windows that come up during a report are placed: screen points.
+[[nodiscard]] inline QPoint esquinaDeVentanaPequena(const AspectoVentanas& aspecto)
+{
+    constexpr double Izquierda = 50; // twips, as the next
+    constexpr double Arriba = 330;
+    return aspecto.esquinaPrincipal() + QPointF{puntosDeTwips(Izquierda), puntosDeTwips(Arriba)}.toPoint();
+}
+
 /// As long as no suite dresses the windows: the captions as they are written, the system's colours, no scaling, all rights.
 class AspectoNeutro : public AspectoVentanas
 {
