@@ -518,6 +518,215 @@
         </message>
     </context>
     <context>
+        <name>frmMeses</name>
+        <message>
+            <source>Listado x Meses</source>
+            <translation>Llistat x Mesos</translation>
+        </message>
+        <message>
+            <source>SELECCIONE EL MES DEL GRAFICO</source>
+            <translation>SELECCIONEU EL MES DEL GRÀFIC</translation>
+        </message>
+        <message>
+            <source>SELECCIONE EL AÑO DEL GRAFICO</source>
+            <translation>SELECCIONEU L'ANY DEL GRÀFIC</translation>
+        </message>
+        <message>
+            <source>Mes anterior</source>
+            <translation>Mes anterior</translation>
+        </message>
+        <message>
+            <source>Mes siguiente</source>
+            <translation>Mes següent</translation>
+        </message>
+        <message>
+            <source>Mes</source>
+            <translation>Mes</translation>
+        </message>
+        <message>
+            <source>Año</source>
+            <translation>Any</translation>
+        </message>
+        <message>
+            <source>Año anterior</source>
+            <translation>Any anterior</translation>
+        </message>
+        <message>
+            <source>Año siguiente</source>
+            <translation>Any següent</translation>
+        </message>
+        <message>
+            <source>Completo</source>
+            <translation>Complet</translation>
+        </message>
+        <message>
+            <source>Aceptar</source>
+            <translation>Accepta</translation>
+        </message>
+        <message>
+            <source>Salir</source>
+            <translation>Surt</translation>
+        </message>
+    </context>
+    <context>
+        <name>frmHistoricoXClientes</name>
+        <message>
+            <source>Historico x Clientes</source>
+            <translation>Històric x Clients</translation>
+        </message>
+        <message>
+            <source>Desde</source>
+            <translation>Des de</translation>
+        </message>
+        <message>
+            <source>Hasta</source>
+            <translation>Fins a</translation>
+        </message>
+        <message>
+            <source>Hoy</source>
+            <translation>Avui</translation>
+        </message>
+        <message>
+            <source>Ayer</source>
+            <translation>Ahir</translation>
+        </message>
+        <message>
+            <source>Esta semana</source>
+            <translation>Aquesta setmana</translation>
+        </message>
+        <message>
+            <source>Este mes</source>
+            <translation>Aquest mes</translation>
+        </message>
+        <message>
+            <source>Mes anterior</source>
+            <translation>Mes anterior</translation>
+        </message>
+        <message>
+            <source>Este año</source>
+            <translation>Aquest any</translation>
+        </message>
+        <message>
+            <source>Completo</source>
+            <translation>Complet</translation>
+        </message>
+        <message>
+            <source>Formato Ticket</source>
+            <translation>Format Tiquet</translation>
+        </message>
+        <message>
+            <source>Todas las Secciones</source>
+            <translation>Totes les Seccions</translation>
+        </message>
+        <message>
+            <source>Productos</source>
+            <translation>Productes</translation>
+        </message>
+        <message>
+            <source>Servicios</source>
+            <translation>Serveis</translation>
+        </message>
+        <message>
+            <source>Ambos</source>
+            <translation>Tots dos</translation>
+        </message>
+        <message>
+            <source>Aceptar</source>
+            <translation>Accepta</translation>
+        </message>
+        <message>
+            <source>Salir</source>
+            <translation>Surt</translation>
+        </message>
+    </context>
+    <context>
+        <name>frmHistoricoXEmpleados</name>
+        <message>
+            <source>Historico x Empleados</source>
+            <translation>Històric x Empleats</translation>
+        </message>
+        <message>
+            <source>Desde</source>
+            <translation>Des de</translation>
+        </message>
+        <message>
+            <source>Hasta</source>
+            <translation>Fins a</translation>
+        </message>
+        <message>
+            <source>Hoy</source>
+            <translation>Avui</translation>
+        </message>
+        <message>
+            <source>Ayer</source>
+            <translation>Ahir</translation>
+        </message>
+        <message>
+            <source>Esta semana</source>
+            <translation>Aquesta setmana</translation>
+        </message>
+        <message>
+            <source>Este mes</source>
+            <translation>Aquest mes</translation>
+        </message>
+        <message>
+            <source>Mes anterior</source>
+            <translation>Mes anterior</translation>
+        </message>
+        <message>
+            <source>Este año</source>
+            <translation>Aquest any</translation>
+        </message>
+        <message>
+            <source>Completo</source>
+            <translation>Complet</translation>
+        </message>
+        <message>
+            <source>Formato Ticket</source>
+            <translation>Format Tiquet</translation>
+        </message>
+        <message>
+            <source>SELECCIONE EL EMPLEADO</source>
+            <translation>SELECCIONEU L'EMPLEAT</translation>
+        </message>
+        <message>
+            <source>Un Empleado</source>
+            <translation>Un Empleat</translation>
+        </message>
+        <message>
+            <source>Todos los Empleados</source>
+            <translation>Tots els Empleats</translation>
+        </message>
+        <message>
+            <source>COMO DESEA ESTE LISTADO</source>
+            <translation>COM VOLEU AQUEST LLISTAT</translation>
+        </message>
+        <message>
+            <source>Listado Detallado</source>
+            <translation>Llistat Detallat</translation>
+        </message>
+        <message>
+            <source>Listado Totalizado</source>
+            <translation>Llistat Totalitzat</translation>
+        </message>
+        <message>
+            <source>Volver</source>
+            <translation>Torna</translation>
+        </message>
+        <message>
+            <source>EMPLEADO SELECCIONADO: </source>
+            <translation>EMPLEAT SELECCIONAT: </translation>
+        </message>
+        <message>
+            <source>Aceptar</source>
+            <translation>Accepta</translation>
+        </message>
+        <message>
+            <source>Salir</source>
+            <translation>Surt</translation>
+        </message>
+    </context>
+    <context>
         <name>frmParar</name>
         <message>
             <source>Listados</source>
