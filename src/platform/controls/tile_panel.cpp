@@ -6,6 +6,8 @@
 
 #include <QEvent>
 
+#include <algorithm>
+
 namespace kestrane {
 
 namespace {
@@ -117,10 +119,14 @@ void TilePanel::pinta()
     }
 }
 
+/// Wider where one of them has a picture, so that a name keeps its room beside it.
 int TilePanel::columnas() const
 {
-    const int ancho = fontMetrics().averageCharWidth() * LetrasPorColumna + Separacion;
-    return std::max(1, (viewport()->width() + Separacion) / ancho);
+    int ancho = fontMetrics().averageCharWidth() * LetrasPorColumna;
+    const auto conImagen = std::ranges::find_if(m_fichas, &Ficha::conImagen);
+    if (conImagen != m_fichas.end())
+        ancho = std::max(ancho, (*conImagen)->sizeHint().width());
+    return std::max(1, (viewport()->width() + Separacion) / (ancho + Separacion));
 }
 
 /// Rows of equal columns, each as high as the highest of its buttons.

@@ -7,6 +7,7 @@
 #include <QDialog>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 
 namespace kestrane {
@@ -109,6 +110,26 @@ TEST_F(TilePanelTest, TwoHundredElementsAreScrolledAndNoneOverlaps)
         for (qsizetype j = i + 1; j < std::min(i + 10, fichas.size()); ++j)
             EXPECT_FALSE(fichas[i]->geometry().intersects(fichas[j]->geometry()));
     }
+}
+
+TEST_F(TilePanelTest, BesideAPictureANameKeepsItsRoom)
+{
+    const QTemporaryDir carpeta;
+    const QString foto = carpeta.filePath(u"ana.png"_s);
+    QPixmap dibujo{10, 10};
+    dibujo.fill(Qt::red);
+    ASSERT_TRUE(dibujo.save(foto));
+    da(3);
+    muestra({700, 300});
+    const int sinFoto = panel.fichas()[1]->width();
+    ArrayPanel elementos;
+    elementos.reserva(2);
+    for (int i = 0; i < 3; ++i)
+        elementos[i].Texto = u"Tienda %1"_s.arg(i);
+    elementos[1].Imagen = foto;
+    panel.da(elementos);
+    EXPECT_GT(panel.fichas()[1]->width(), sinFoto);
+    EXPECT_GE(panel.fichas()[1]->width(), panel.fichas()[1]->sizeHint().width());
 }
 
 TEST_F(TilePanelTest, TheMarkIsTakenBack)
