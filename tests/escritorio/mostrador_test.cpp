@@ -141,6 +141,29 @@ TEST_F(MostradorTest, TheListingOfServicesGoesThroughItsDialog)
     EXPECT_EQ(vistas(), 1U);
 }
 
+TEST_F(MostradorTest, WithTheKeyboardAloneAListingIsLeftHalfWayAndAskedForAgain)
+{
+    m_tienda.ejecuta(u"insert into servicios (codigo, nombre, borrar, precio, seccion) values (1, 'Corte', 0, 12.5, 1)"_s);
+    auto* const boton = m_mostrador.menu().findChild<QWidget*>(u"cmd_Generales4"_s);
+    ASSERT_NE(boton, nullptr);
+    const auto pideY = [&](std::initializer_list<Qt::Key> teclas) {
+        QTimer::singleShot(0, &m_mostrador.menu(), [teclas = std::vector<Qt::Key>{teclas}] {
+            QWidget* const dialogo = QApplication::activeModalWidget();
+            ASSERT_NE(dialogo, nullptr);
+            ASSERT_TRUE(QTest::qWaitForWindowActive(dialogo)); // its first button has the keyboard then
+            for (const Qt::Key tecla : teclas)
+                QTest::keyClick(dialogo->focusWidget() ? dialogo->focusWidget() : dialogo, tecla);
+        });
+        boton->setFocus();
+        QTest::keyClick(boton, Qt::Key_Space);
+    };
+    pideY({Qt::Key_Tab, Qt::Key_Escape});
+    EXPECT_EQ(vistas(), 0U);
+    pideY({Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Return});
+    EXPECT_EQ(vistas(), 1U);
+    EXPECT_EQ(m_contexto.filtros.columnaOrden, u"Codigo"_s);
+}
+
 TEST_F(MostradorTest, EachDialogIsOfferedUnderItsNameAndGoneWhenItIsLeft)
 {
     const std::pair<Dialogo, QString> casos[] = {
