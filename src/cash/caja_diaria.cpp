@@ -53,11 +53,6 @@ void CajaDiaria::ponCliente(const Valor& codigo)
     m_informe.Fields(u"texto30") = m_nif;
 }
 
-QString CajaDiaria::textoDeLinea(Recordset& linea, QStringView prefijo) const
-{
-    return texto(linea.Fields(u"unidades")) + u" X "_s + prefijo.toString() + texto(linea.Fields(u"producto"));
-}
-
 QString CajaDiaria::deLaTienda() const
 {
     return u"  and tienda like "_s + patronTienda(m_contexto);

@@ -43,8 +43,6 @@ private:
     void ponNumero(const Valor& numero);
     void ponCliente(const Valor& codigo);
 
-    /// "unidades X " and `producto`, with what the kind of line puts between them.
-    [[nodiscard]] QString textoDeLinea(Recordset& linea, QStringView prefijo = {}) const;
     [[nodiscard]] QString texto(const Valor& valor) const { return m_listados.texto(valor); }
     /// "  and tienda like '%Centro'"
     [[nodiscard]] QString deLaTienda() const;
@@ -57,7 +55,7 @@ private:
     double m_cajaInicial = 0;
     double m_totalGastos = 0;
     double m_totalCobros = 0;
-    double m_totalRetiradas = 0;
+    double m_totalRetiradas = 0; ///< added up, shown nowhere
 };
 
 } // namespace kestrane::cash

@@ -57,7 +57,7 @@ void CajaDiaria::lineaDevuelta(Recordset& abono, Recordset& linea)
     nuevaFila();
     m_informe.Fields(u"fecha3") = abono.Fields(u"fechaventa");
     m_informe.Fields(u"numerico1") = abono.Fields(u"Numero");
-    m_informe.Fields(u"texto10") = texto(abono.Fields(u"Numero")) + u" / "_s + texto(abono.Fields(u"num_factura"));
+    m_informe.Fields(u"texto10") = numeroDeAbono(m_listados, abono);
     ponCliente(abono.Fields(u"cliente"));
     m_informe.Fields(u"texto3") = u"Abono: "_s + producto;
     m_informe.Fields(u"texto7") = linea.Fields(u"NombreEmpleado");

@@ -1,6 +1,7 @@
 // What the cash sheet lists besides sales and returns: opening cash, payments of debts, expenses, withdrawals.
 
 #include "cash/caja_diaria.h"
+#include "cash/movimientos_de_caja.h"
 #include "cash/vocabulary/deudas.h"
 #include "cash/vocabulary/importes.h"
 #include "cash/vocabulary/nombres.h"
@@ -14,10 +15,7 @@ using namespace Qt::StringLiterals;
 void CajaDiaria::cajaInicial()
 {
     Recordset cajas;
-    cajas.Open(u"Select * from caja_inicial where fecha = "_s + diaSql(m_contexto.FechaDesde) + u" and tienda like "_s +
-                   patronTienda(m_contexto),
-               m_contexto.ConexionTienda);
-    if (cajas.RecordCount() <= 0)
+    if (!abreCajaInicial(m_listados, cajas))
         return;
     nuevaFila();
     m_informe.Fields(u"fecha3") = m_listados.reloj.hoy();

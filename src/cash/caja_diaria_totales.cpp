@@ -1,6 +1,7 @@
 // What the cash sheet writes when all rows stand: totals in every row, remarks and vouchers beside them.
 
 #include "cash/caja_diaria.h"
+#include "cash/vocabulary/nombres.h"
 #include "cash/vocabulary/observaciones.h"
 #include "pipeline/fragmentos_sql.h"
 #include "pipeline/sentencias_numero.h"
@@ -11,11 +12,7 @@ using namespace Qt::StringLiterals;
 
 void CajaDiaria::totales()
 {
-    juntaServiciosYPacks(m_totales);
-    ejecutaConNumero(m_listados, u"update informes set numerico13 = ", m_totales.TotalServicios);
-    ejecutaConNumero(m_listados, u"update informes set numerico14 = ", m_totales.TotalProductos);
-    ejecutaConNumero(m_listados, u"update informes set numerico9= ", m_totales.CosteProductos);
-    ejecutaConNumero(m_listados, u"update informes set numerico8= ", m_totales.UnidadesServicios.valor());
+    escribeTotalesDeVentas(m_listados, m_totales);
     ejecutaConNumero(m_listados, u"update informes set numerico10= ", m_cajaInicial);
     ejecutaConNumero(m_listados, u"update informes set numerico17= ", m_totales.NumeroTickets.valor());
     ejecutaConNumero(m_listados, u"update informes set numerico16= ", m_totalGastos);
@@ -53,7 +50,7 @@ void CajaDiaria::vale(Recordset& fila)
     const QString uso = aplicado.esNulo() ? QString{} : u"Venta = "_s + texto(aplicado);
     QString cliente = texto(fila.Fields(u"Nombre")) + u' ' + texto(fila.Fields(u"apellidos"));
     if (cliente.trimmed().isEmpty())
-        cliente = u"Cliente Generico"_s;
+        cliente = ClienteGenerico.toString();
     const QString venta = texto(fila.Fields(u"Num_Factura"));
     m_contexto.ConexionListados.Execute(u"Insert into subinformes (fecha3,texto10,texto11,texto12,texto14,numerico1,texto15) "
                                         " values ('"_s +

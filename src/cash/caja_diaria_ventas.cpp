@@ -28,7 +28,7 @@ void CajaDiaria::anunciaVentas(Recordset& cabeceras, const QString& lineas, cons
 {
     cabeceras.Anticipa(lineas, u"Numero"_s, cola);
     consultaDeClienteNif(m_contexto).anuncia(cabeceras, u"cliente"_s);
-    consultaDePagoPendiente(m_contexto).anuncia(cabeceras, u"Numero"_s);
+    anunciaDeudas(m_contexto, cabeceras);
 }
 
 void CajaDiaria::ventas()
@@ -64,7 +64,7 @@ void CajaDiaria::lineaDeVenta(Recordset& cabecera, Recordset& linea)
     m_informe.Fields(u"fecha3") = cabecera.Fields(u"fechaventa");
     ponNumero(cabecera.Fields(u"Numero"));
     ponCliente(cabecera.Fields(u"cliente"));
-    m_informe.Fields(u"texto3") = textoDeLinea(linea);
+    m_informe.Fields(u"texto3") = unidadesYProducto(m_listados, linea);
     m_informe.Fields(u"texto7") = nombreCortoDeLinea(m_listados, cabecera.Fields(u"Numero"), linea);
     ponPago(m_listados, m_informe, pago);
     ponImportes(m_informe, netoDeLinea(linea), impuestosDeLinea(linea));
@@ -84,7 +84,7 @@ void CajaDiaria::ponClaseDeVenta(Recordset& cabecera, Recordset& linea)
         tipo == u"CSF")
         ponBloque(m_informe, bloques::VentasGenerales);
     if (tipo == u"CB" || tipo == u"CBF" || tipo == u"CPSPA")
-        m_informe.Fields(u"texto3") = textoDeLinea(linea, prefijo);
+        m_informe.Fields(u"texto3") = unidadesYProducto(m_listados, linea, prefijo);
     if (tipo == u"PSPA" || tipo == u"CSF")
         m_informe.Fields(u"texto3") = prefijo.toString() + producto;
     if (tipo == u"B" || tipo == u"BF")
@@ -112,7 +112,7 @@ void CajaDiaria::ventaNoCobrada(Recordset& cabecera)
     m_informe.Fields(u"texto3") = u"Venta no Cobrada"_s;
     m_informe.Fields(u"texto7") = cabecera.Fields(u"empleado"); // the code, not the name
     ponPago(m_listados, m_informe, cabecera.Fields(u"pago"));
-    ponImportes(m_informe, -ImportePendiente(m_listados, numero), 0.0);
+    ponImportes(m_informe, importes::opuesto(ImportePendiente(m_listados, numero)), 0.0);
     ponBloque(m_informe, bloques::VentasNoCobradas);
     m_informe.Update();
 }
@@ -153,7 +153,7 @@ void CajaDiaria::lineaRegularizada(Recordset& cabecera, Recordset& linea)
         cabecera.Fields(u"fechaventa").esNulo() ? cabecera.Fields(u"fecha") : cabecera.Fields(u"fechaventa");
     ponNumero(cabecera.Fields(u"Numero"));
     ponCliente(cabecera.Fields(u"cliente"));
-    m_informe.Fields(u"texto3") = textoDeLinea(linea);
+    m_informe.Fields(u"texto3") = unidadesYProducto(m_listados, linea);
     m_informe.Fields(u"texto7") = nombreEnteroDeLinea(m_listados, cabecera.Fields(u"Numero"), linea);
     ponPago(m_listados, m_informe, pago);
     ponImportes(m_informe, netoDeLinea(linea), impuestosDeLinea(linea));

@@ -81,13 +81,10 @@ void Dinero::recorre(const QString& cabeza, Signo signo, Importe importe, Anunci
 
 void sumaVentasConTarjeta(Listados& listados, Dinero& dinero)
 {
-    const auto anunciaDeudas = [&](Recordset& ventas) {
-        consultaDePagoPendiente(listados.contexto).anuncia(ventas, u"Numero"_s);
-        consultaDeImportePendiente().anuncia(ventas, u"Numero"_s);
-    };
     dinero.recorre(
         u"Select * from cabecera_Factura where (pago = 2 or pago = 3) and fechaventa between "_s, Signo::Entra,
-        [&](Recordset& venta) { return importeDeVentaConTarjeta(listados, venta); }, anunciaDeudas);
+        [&](Recordset& venta) { return importeDeVentaConTarjeta(listados, venta); },
+        [&](Recordset& ventas) { anunciaDeudas(listados.contexto, ventas); });
 }
 
 } // namespace

@@ -57,7 +57,7 @@ void FormasPagoVentas::devoluciones()
     abonos.Open(u"Select * from cabecera_abono where fechaventa between "_s + entreFechas(m_contexto) + deLaTienda() +
                     u" order  by numero"_s,
                 m_contexto.ConexionTienda);
-    anuncia(abonos, lineasDevueltas, deLaTienda());
+    anunciaLineasYCliente(m_contexto, abonos, lineasDevueltas, deLaTienda());
     for (Recordset& abono : abonos) {
         const Operacion suya{.fecha = abono.Fields(u"fechaventa"),
                              .numero = abono.Fields(u"Numero"),
@@ -77,13 +77,12 @@ void FormasPagoVentas::devoluciones()
 /// The deposit service lowers the services too, though its sale never raised them.
 void FormasPagoVentas::lineaDevuelta(Recordset& abono, const Operacion& operacion, Recordset& linea)
 {
-    const Valor impuestos = impuestosDeAbono(linea);
     nuevaFila(operacion);
-    m_informe.Fields(u"texto10") = texto(operacion.numero) + u" / "_s + texto(abono.Fields(u"num_factura"));
+    m_informe.Fields(u"texto10") = numeroDeAbono(m_listados, abono);
     m_informe.Fields(u"texto3") = u"Abono: "_s + texto(linea.Fields(u"producto"));
     m_informe.Fields(u"texto7") = linea.Fields(u"NombreEmpleado");
     ponPago(m_listados, m_informe, abono.Fields(u"pago"));
-    ponImportes(m_informe, importes::opuesto(importes::resta(linea.Fields(u"precio"), impuestos)), importes::opuesto(impuestos));
+    ponImportesDevueltos(m_informe, linea);
     if (esIngresoEnDeposito(m_listados, linea))
         m_ingresoDeposito -= linea.Fields(u"precio").doble();
     restaLineaDevuelta(m_listados, m_totales, linea, pack_spa::DeFormasDePago);
@@ -102,11 +101,7 @@ void FormasPagoVentas::movimientos()
 
 void FormasPagoVentas::totales()
 {
-    juntaServiciosYPacks(m_totales);
-    ejecutaConNumero(m_listados, u"update informes set numerico13 = ", m_totales.TotalServicios);
-    ejecutaConNumero(m_listados, u"update informes set numerico14 = ", m_totales.TotalProductos);
-    ejecutaConNumero(m_listados, u"update informes set numerico9= ", m_totales.CosteProductos);
-    ejecutaConNumero(m_listados, u"update informes set numerico8= ", m_totales.UnidadesServicios.valor());
+    escribeTotalesDeVentas(m_listados, m_totales);
     ejecutaConNumero(m_listados, u"update informes set numerico10= ", 0); // the opening cash stands in the summary box alone
     ejecutaConNumero(m_listados, u"update informes set numerico17= ", m_totales.NumeroTickets.valor());
     ejecutaConNumero(m_listados, u"update informes set numerico16= ", m_totalGastos);
@@ -117,15 +112,15 @@ void FormasPagoVentas::totales()
 void FormasPagoVentas::resumen()
 {
     m_contexto.ConexionListados.Execute(u"Delete * from subinformes"_s);
-    constexpr QStringView Suma = u"insert into subinformes (numerico1,texto1) values (";
-    constexpr QStringView Resta = u"insert into subinformes (numerico1,texto1) values (-";
+    using resumen_de_caja::Entra;
+    using resumen_de_caja::Sale;
     const LineaResumen lineas[] = {
-        {Suma, m_ingresoDeposito, u",'Ingreso en Deposito:')"},
-        {Resta, m_totalNoCobrado, u",'Ventas no Cobradas:')"},
-        {Resta, m_totalGastos, u",'Gastos del Dia:')"},
-        {Suma, m_totalCobros, u",'Cobros de deudas Pendientes:')"},
-        {Suma, m_cajaInicial, u",'Caja Inicial:')"},
-        {Resta, m_totalRetiradas, u",'Retiradas del dia:')"},
+        {Entra, m_ingresoDeposito, u",'Ingreso en Deposito:')"},
+        {Sale, m_totalNoCobrado, u",'Ventas no Cobradas:')"},
+        {Sale, m_totalGastos, u",'Gastos del Dia:')"},
+        {Entra, m_totalCobros, u",'Cobros de deudas Pendientes:')"},
+        {Entra, m_cajaInicial, u",'Caja Inicial:')"},
+        {Sale, m_totalRetiradas, u",'Retiradas del dia:')"},
     };
     escribeResumen(m_listados, lineas);
     ejecutaConNumero(m_listados, u"update informes set numerico19= ",

@@ -46,12 +46,6 @@ QString FormasPagoVentas::deLaTienda() const
     return u" and tienda like "_s + patronTienda(m_contexto);
 }
 
-void FormasPagoVentas::anuncia(Recordset& ventas, const QString& lineas, const QString& cola) const
-{
-    ventas.Anticipa(lineas, u"Numero"_s, cola);
-    consultaDeCliente(m_contexto).anuncia(ventas, u"cliente"_s);
-}
-
 FormasPagoVentas::Operacion FormasPagoVentas::operacion(Recordset& cabecera)
 {
     return {.fecha = cabecera.Fields(u"fechaventa"),
@@ -68,7 +62,7 @@ void FormasPagoVentas::ventas()
     ventas.Open(u"Select * from cabecera_factura where fechaventa between "_s + entreFechas(m_contexto) + deLaTienda() +
                     u" order  by numero"_s,
                 m_contexto.ConexionTienda);
-    anuncia(ventas, LineasDeVenta, deLaTienda());
+    anunciaLineasYCliente(m_contexto, ventas, LineasDeVenta, deLaTienda());
     consultaDePagoPendiente(m_contexto).anuncia(ventas, u"Numero"_s);
     for (Recordset& cabecera : ventas)
         venta(cabecera, LineasDeVenta, deLaTienda(), nullptr);
@@ -81,7 +75,7 @@ void FormasPagoVentas::ventasRegularizadas()
     ventas.Open(u"Select * from cabecera_factura_anulaciones where (numero<=0 or borrar=-1) and fechaventa between "_s +
                     entreFechas(m_contexto) + deLaTienda() + u" order  by numero"_s,
                 m_contexto.ConexionTienda);
-    anuncia(ventas, LineasRegularizadas, cola);
+    anunciaLineasYCliente(m_contexto, ventas, LineasRegularizadas, cola);
     consultaDePagoPendiente(m_contexto).anuncia(ventas, u"Numero"_s);
     for (Recordset& cabecera : ventas)
         venta(cabecera, LineasRegularizadas, cola, &bloques::VentasRegularizadas);
@@ -118,7 +112,7 @@ void FormasPagoVentas::lineaVendida(Recordset& cabecera, const Operacion& operac
 {
     const Valor pago = cabecera.Fields(u"pago");
     nuevaFila(operacion);
-    m_informe.Fields(u"texto3") = texto(linea.Fields(u"producto"));
+    m_informe.Fields(u"texto3") = linea.Fields(u"producto");
     m_informe.Fields(u"texto7") = linea.Fields(u"NombreEmpleado");
     ponPago(m_listados, m_informe, pago);
     ponImportes(m_informe, netoDeLinea(linea), impuestosDeLinea(linea));

@@ -44,7 +44,6 @@ private:
     void lineaDevuelta(Recordset& abono, const Operacion& operacion, Recordset& linea);
 
     void nuevaFila(const Operacion& operacion);
-    void anuncia(Recordset& ventas, const QString& lineas, const QString& cola) const;
 
     [[nodiscard]] QString texto(const Valor& valor) const { return m_listados.texto(valor); }
     /// " and tienda like '%Centro'"

@@ -31,7 +31,7 @@ void lineaDeAlbaran(Listados& listados, InformeNuevo& informe, TotalesVentas& to
     informe.Fields(u"numerico1") = albaran.Fields(u"num_albaran");
     informe.Fields(u"texto10") = albaran.Fields(u"num_albaran");
     informe.Fields(u"texto2") = NombreCliente(listados, albaran.Fields(u"cliente"));
-    informe.Fields(u"texto3") = listados.texto(linea.Fields(u"unidades")) + u" X "_s + listados.texto(linea.Fields(u"producto"));
+    informe.Fields(u"texto3") = unidadesYProducto(listados, linea);
     informe.Fields(u"texto7") = nombreCortoDeLinea(listados, albaran.Fields(u"Numero"), linea);
     ponPago(listados, informe, pago);
     ponImportes(informe, netoDeLinea(linea), impuestosDeLinea(linea));
@@ -49,8 +49,7 @@ void albaranes(Listados& listados, InformeNuevo& informe, TotalesVentas& totales
     albaranes.Open(u"Select * from cabecera_factura_temp where num_albaran >0 and fecha between "_s + entreFechas(contexto) +
                        u" order by numero"_s,
                    listados.contexto.ConexionTienda);
-    albaranes.Anticipa(LineasDeAlbaran, u"Numero"_s, {});
-    consultaDeCliente(contexto).anuncia(albaranes, u"cliente"_s);
+    anunciaLineasYCliente(contexto, albaranes, LineasDeAlbaran, {});
     for (Recordset& albaran : albaranes) {
         totales.NumeroTickets += 1;
         Recordset lineas;
@@ -62,11 +61,7 @@ void albaranes(Listados& listados, InformeNuevo& informe, TotalesVentas& totales
 
 void escribeTotales(Listados& listados, TotalesVentas& totales)
 {
-    juntaServiciosYPacks(totales);
-    ejecutaConNumero(listados, u"update informes set numerico13 = ", totales.TotalServicios);
-    ejecutaConNumero(listados, u"update informes set numerico14 = ", totales.TotalProductos);
-    ejecutaConNumero(listados, u"update informes set numerico9= ", totales.CosteProductos);
-    ejecutaConNumero(listados, u"update informes set numerico8= ", totales.UnidadesServicios.valor());
+    escribeTotalesDeVentas(listados, totales);
     ejecutaConNumero(listados, u"update informes set numerico17= ", totales.NumeroTickets.valor());
 }
 

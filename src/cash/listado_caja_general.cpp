@@ -1,5 +1,6 @@
 #include "cash/listado_caja_general.h"
 
+#include "cash/filas_de_caja.h"
 #include "cash/movimientos_de_caja.h"
 #include "cash/servicios_compartidos.h"
 #include "cash/sumas_por_empleado.h"
@@ -139,8 +140,8 @@ void CajaGeneral::sumasDelPeriodo()
 void CajaGeneral::resumen()
 {
     ejecuta(u"Delete * from subinformes"_s);
-    constexpr QStringView Entra = u"insert into subinformes (numerico1,texto1) values (";
-    constexpr QStringView Sale = u"insert into subinformes (numerico1,texto1) values (-";
+    using resumen_de_caja::Entra;
+    using resumen_de_caja::Sale;
     const LineaResumen lineas[] = {
         {Sale, m_saldo.NoCobrado, u",'Ventas no Cobradas:')"},         {Sale, m_saldo.Gastos, u",'Gastos del Dia:')"},
         {Entra, m_saldo.Cobros, u",'Cobros de deudas Pendientes:')"},  {Entra, m_saldo.CajaInicial, u",'Caja Inicial:')"},

@@ -81,8 +81,7 @@ QString CajaTickets::entreFechasYTienda(QStringView tienda) const
 void CajaTickets::abreVentas(Recordset& ventas, const QString& sentencia)
 {
     ventas.Open(sentencia, m_contexto.ConexionTienda);
-    consultaDePagoPendiente(m_contexto).anuncia(ventas, u"Numero"_s);
-    consultaDeImportePendiente().anuncia(ventas, u"Numero"_s);
+    anunciaDeudas(m_contexto, ventas);
 }
 
 /// What a ticket, an annulled one and a return have in common.
@@ -183,15 +182,15 @@ void CajaTickets::abonos()
 /// The one row that names no store.
 void CajaTickets::cajaInicial()
 {
-    const Valor importe = importeDeCajaInicial(m_listados);
-    if (importe.esNulo())
+    Recordset cajas;
+    if (!abreCajaInicial(m_listados, cajas))
         return;
     m_informe.AddNew(cabeceras::EmpresaYPeriodo);
     m_informe.Fields(u"numerico2") = 0.0;
     m_informe.Fields(u"texto2") = u"Caja Inicial"_s;
-    m_informe.Fields(u"numerico1") = importe;
+    m_informe.Fields(u"numerico1") = cajas.Fields(u"importe");
     m_informe.Update();
-    m_cajaInicial = importe.doble();
+    m_cajaInicial = cajas.Fields(u"importe").doble();
 }
 
 void CajaTickets::efectivoYTarjeta()

@@ -8,7 +8,6 @@
 #include "cash/vocabulary/observaciones.h"
 #include "cash/vocabulary/pagos.h"
 #include "cash/vocabulary/tipos_venta.h"
-#include "cash/vocabulary/totales_ventas.h"
 #include "pipeline/fragmentos_sql.h"
 #include "pipeline/sentencias_numero.h"
 
@@ -42,7 +41,6 @@ private:
     void devoluciones();
     void totales();
 
-    void anuncia(Recordset& ventas, const QString& lineas, const QString& cola) const;
     void lineaVendida(Recordset& venta, Recordset& linea);
     void lineaDevuelta(Recordset& abono, Recordset& linea);
     void nuevaFila(Recordset& venta, Recordset& linea);
@@ -53,7 +51,9 @@ private:
     Listados& m_listados;
     ContextoEjecucion& m_contexto;
     InformeNuevo m_informe;
-    TotalesVentas m_totales;
+    double m_totalServicios = 0;
+    Contador16 m_unidadesServicios;
+    Contador16 m_numeroTickets;
     double m_cajaInicial = 0;
     double m_totalCobros = 0;
     double m_totalGastos = 0;
@@ -75,12 +75,6 @@ void PorServicios::construye()
     copiaObservaciones(m_listados, CabezaObservaciones.toString() + entreFechas(m_contexto) + u' ' + deLaTienda());
 }
 
-void PorServicios::anuncia(Recordset& ventas, const QString& lineas, const QString& cola) const
-{
-    ventas.Anticipa(lineas, u"Numero"_s, cola);
-    consultaDeCliente(m_contexto).anuncia(ventas, u"cliente"_s);
-}
-
 void PorServicios::ventas()
 {
     // Between "2" and "and" there never was a blank.
@@ -89,9 +83,9 @@ void PorServicios::ventas()
     ventas.Open(u"Select * from cabecera_factura where fechaventa between "_s + entreFechas(m_contexto) + u' ' + deLaTienda() +
                     u" order by numero"_s,
                 m_contexto.ConexionTienda);
-    anuncia(ventas, LineasDeVenta, cola);
+    anunciaLineasYCliente(m_contexto, ventas, LineasDeVenta, cola);
     for (Recordset& venta : ventas) {
-        m_totales.NumeroTickets += 1;
+        m_numeroTickets += 1;
         Recordset lineas;
         lineas.Open(LineasDeVenta + texto(venta.Fields(u"Numero")) + cola, m_contexto.ConexionTienda);
         for (Recordset& linea : lineas) {
@@ -110,9 +104,9 @@ void PorServicios::ventasRegularizadas()
     ventas.Open(u"Select * from cabecera_factura_anulaciones where (numero <=0 or borrar = -1 ) and fechaventa between "_s +
                     entreFechas(m_contexto) + u' ' + deLaTienda() + u" order by numero"_s,
                 m_contexto.ConexionTienda);
-    anuncia(ventas, LineasRegularizadas, cola);
+    anunciaLineasYCliente(m_contexto, ventas, LineasRegularizadas, cola);
     for (Recordset& venta : ventas) {
-        m_totales.NumeroTickets += 1;
+        m_numeroTickets += 1;
         Recordset lineas;
         lineas.Open(LineasRegularizadas + texto(venta.Fields(u"Numero")) + cola, m_contexto.ConexionTienda);
         for (Recordset& linea : lineas) {
@@ -135,7 +129,7 @@ void PorServicios::nuevaFila(Recordset& venta, Recordset& linea)
     m_informe.Fields(u"numerico11") = linea.Fields(u"Precio_unit");
     m_informe.Fields(u"texto24") = linea.Fields(u"codigo");
     m_informe.Fields(u"numerico5") = linea.Fields(u"unidades");
-    m_informe.Fields(u"texto3") = texto(linea.Fields(u"producto"));
+    m_informe.Fields(u"texto3") = linea.Fields(u"producto");
     m_informe.Fields(u"texto7") = linea.Fields(u"NombreEmpleado");
     ponPago(m_listados, m_informe, venta.Fields(u"pago"));
 }
@@ -146,7 +140,9 @@ void PorServicios::lineaVendida(Recordset& venta, Recordset& linea)
     const QString tipo = texto(linea.Fields(u"tipo_venta"));
     nuevaFila(venta, linea);
     ponImportes(m_informe, netoDeLinea(linea), impuestosDeLinea(linea));
-    sumaLineaVendida(m_listados, m_totales, pago, linea);
+    if (entraDinero(pago))
+        m_totalServicios += linea.Fields(u"precio").doble();
+    m_unidadesServicios += tipo == u"B" ? 1 : linea.Fields(u"unidades").doble();
     if (tipo == u"S" || tipo == u"CB")
         ponBloque(m_informe, bloques::VentasGenerales);
     if (tipo == u"CB")
@@ -165,7 +161,7 @@ void PorServicios::devoluciones()
     abonos.Open(u"Select * from cabecera_abono where fechaventa between "_s + entreFechas(m_contexto) + u' ' + deLaTienda() +
                     u" order by numero"_s,
                 m_contexto.ConexionTienda);
-    anuncia(abonos, LineasDevueltas, cola);
+    anunciaLineasYCliente(m_contexto, abonos, LineasDevueltas, cola);
     for (Recordset& abono : abonos) {
         Recordset lineas;
         lineas.Open(LineasDevueltas + texto(abono.Fields(u"Numero")) + cola, m_contexto.ConexionTienda);
@@ -180,23 +176,23 @@ void PorServicios::devoluciones()
 /// The sign of the sale turned: the tax is taken off, unlike in the daily cash sheet.
 void PorServicios::lineaDevuelta(Recordset& abono, Recordset& linea)
 {
-    const Valor impuestos = impuestosDeAbono(linea);
     nuevaFila(abono, linea);
-    m_informe.Fields(u"texto10") = texto(abono.Fields(u"Numero")) + u" / "_s + texto(abono.Fields(u"num_factura"));
+    m_informe.Fields(u"texto10") = numeroDeAbono(m_listados, abono);
     m_informe.Fields(u"numerico5") = importes::opuesto(linea.Fields(u"unidades"));
     m_informe.Fields(u"texto3") = u"Abono: "_s + texto(linea.Fields(u"producto"));
-    ponImportes(m_informe, importes::opuesto(importes::resta(linea.Fields(u"precio"), impuestos)), importes::opuesto(impuestos));
-    restaLineaDevuelta(m_listados, m_totales, linea);
+    ponImportesDevueltos(m_informe, linea);
+    m_totalServicios -= linea.Fields(u"precio").doble();
+    m_unidadesServicios -= linea.Fields(u"unidades").doble();
     ponBloque(m_informe, bloques::Devoluciones);
 }
 
 void PorServicios::totales()
 {
-    ejecutaConNumero(m_listados, u"update informes set numerico13 = ", m_totales.TotalServicios);
-    ejecutaConNumero(m_listados, u"update informes set numerico9= ", m_totales.CosteProductos);
-    ejecutaConNumero(m_listados, u"update informes set numerico8= ", m_totales.UnidadesServicios.valor());
+    ejecutaConNumero(m_listados, u"update informes set numerico13 = ", m_totalServicios);
+    ejecutaConNumero(m_listados, u"update informes set numerico9= ", 0);
+    ejecutaConNumero(m_listados, u"update informes set numerico8= ", m_unidadesServicios.valor());
     ejecutaConNumero(m_listados, u"update informes set numerico10= ", m_cajaInicial);
-    ejecutaConNumero(m_listados, u"update informes set numerico17= ", m_totales.NumeroTickets.valor());
+    ejecutaConNumero(m_listados, u"update informes set numerico17= ", m_numeroTickets.valor());
     ejecutaConNumero(m_listados, u"update informes set numerico16= ", m_totalGastos);
     ejecutaConNumero(m_listados, u"update informes set numerico18= ", m_totalCobros);
 }

@@ -17,19 +17,19 @@ QString periodoYTienda(const ContextoEjecucion& contexto)
 
 } // namespace
 
-Valor importeDeCajaInicial(Listados& listados)
+bool abreCajaInicial(Listados& listados, Recordset& cajas)
 {
-    const ContextoEjecucion& contexto = listados.contexto;
-    return primeraFila(listados,
-                       u"Select * from caja_inicial where fecha = "_s + diaSql(contexto.FechaDesde) + u" and tienda like "_s +
-                           patronTienda(contexto),
-                       Valor{}, [](Recordset& fila) { return Valor{fila.Fields(u"importe").doble()}; });
+    ContextoEjecucion& contexto = listados.contexto;
+    cajas.Open(u"Select * from caja_inicial where fecha = "_s + diaSql(contexto.FechaDesde) + u" and tienda like "_s +
+                   patronTienda(contexto),
+               contexto.ConexionTienda);
+    return cajas.RecordCount() > 0;
 }
 
 double cajaInicialDelDia(Listados& listados)
 {
-    const Valor importe = esDeUnDia(listados.contexto) ? importeDeCajaInicial(listados) : Valor{};
-    return importe.esNulo() ? 0 : importe.doble();
+    Recordset cajas;
+    return esDeUnDia(listados.contexto) && abreCajaInicial(listados, cajas) ? cajas.Fields(u"importe").doble() : 0;
 }
 
 double totalNoCobrado(Listados& listados)
@@ -37,8 +37,7 @@ double totalNoCobrado(Listados& listados)
     Recordset ventas;
     ventas.Open(u"Select numero from cabecera_factura where fechaventa between "_s + periodoYTienda(listados.contexto),
                 listados.contexto.ConexionTienda);
-    consultaDePagoPendiente(listados.contexto).anuncia(ventas, u"numero"_s);
-    consultaDeImportePendiente().anuncia(ventas, u"numero"_s);
+    anunciaDeudas(listados.contexto, ventas);
     double total = 0;
     for (Recordset& venta : ventas) {
         const Valor numero = venta.Fields(u"numero");

@@ -1,14 +1,15 @@
 #pragma once
 
 #include "pipeline/listados.h"
+#include "platform/database/recordset.h"
 
 /// Sums of the cash desk over the run's period and store, euros, where a report does not list their rows. A Null amount is error
 /// 94, but for the sums that the database makes.
 namespace kestrane::cash {
 
-/// `importe` of the first row of `caja_inicial` on the period's first day; Null without a row.
-[[nodiscard]] Valor importeDeCajaInicial(Listados& listados);
-/// The same on a period of one day; 0 without a row and over longer periods.
+/// Opens `caja_inicial` of the period's first day and says whether it has a row; the first one counts.
+[[nodiscard]] bool abreCajaInicial(Listados& listados, Recordset& cajas);
+/// The `importe` of that row on a period of one day; 0 without a row and over longer periods.
 [[nodiscard]] double cajaInicialDelDia(Listados& listados);
 /// What was left unpaid of the period's sales (`cabecera_pago`).
 [[nodiscard]] double totalNoCobrado(Listados& listados);

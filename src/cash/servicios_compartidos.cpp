@@ -55,7 +55,11 @@ struct Grupo
     QString clave;
     double importe = 0;
 
-    [[nodiscard]] bool sigueCon(const Grupo& parte) const { return factura == parte.factura && codigo == parte.codigo; }
+    /// Whether a share is one of the same line.
+    [[nodiscard]] bool sigueCon(Recordset& parte) const
+    {
+        return factura == parte.Fields(u"num_factura").entero32() && codigo == parte.Fields(u"cod_Detalle").entero32();
+    }
 
     void junta(const Grupo& parte)
     {
@@ -97,14 +101,13 @@ void anadeServiciosCompartidosAnulados(Listados& listados, Vendedores& vendedore
     const auto escribe = [&](const Grupo& grupo) { vendedores.anadeServicios(grupo.clave, grupo.nombre, grupo.importe); };
     std::optional<Grupo> grupo;
     for (Recordset& fila : partes) {
-        Grupo parte = grupoDe(listados, fila);
-        if (grupo && grupo->sigueCon(parte)) {
-            grupo->junta(parte);
+        if (grupo && grupo->sigueCon(fila)) {
+            grupo->junta(grupoDe(listados, fila));
             continue;
         }
         if (grupo)
-            escribe(*grupo);
-        grupo = std::move(parte);
+            escribe(*grupo); // before the next one is read: what is wrong with that one takes nothing from this
+        grupo = grupoDe(listados, fila);
     }
     escribe(*grupo);
 }

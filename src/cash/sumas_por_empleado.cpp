@@ -1,5 +1,6 @@
 #include "cash/sumas_por_empleado.h"
 
+#include "cash/vocabulary/alcance.h"
 #include "pipeline/fragmentos_sql.h"
 
 #include <QStringBuilder>
@@ -83,7 +84,7 @@ QString sentenciaAnulado(const ContextoEjecucion& contexto, const SumaPorEmplead
 {
     const auto& [tipos, resto] = suma.anulado;
     QString tiendas;
-    if (!contexto.TiendaSeleccionada.isEmpty() && contexto.MultiTienda)
+    if (limitaLineasAnuladas(contexto))
         tiendas = u"  and detalle_factura_anulaciones.tienda like "_s % patronTienda(contexto) %
                   u" and cabecera_Factura_anulaciones.tienda like "_s % patronTienda(contexto);
     return u"Select sum(detalle_factura_anulaciones.precio) as total,detalle_factura_anulaciones.codEmpleado "

@@ -98,12 +98,13 @@ TEST_F(CajaTicketsTotalesTest, AnApostropheInARemarkEndsTheRunAndRowsSoFarStay)
     EXPECT_EQ(m_puesto.filas(u"texto1"_s, u"subinformes"_s), QStringList{u"vieja"_s}) << "the summary had not begun";
 }
 
-TEST_F(CajaTicketsTotalesTest, ANullOpeningCashEndsTheRunAfterTheTickets)
+TEST_F(CajaTicketsTotalesTest, ANullOpeningCashEndsTheRunBehindItsRow)
 {
     venta(101, 1, u"60"_s);
     movimiento(u"caja_inicial"_s, u"null"_s);
     EXPECT_EQ(numeroDeError([&] { construye(); }), ErrorEjecucion::UsoNoValidoDeNull);
-    EXPECT_EQ(totales(), QStringList{u"0|nulo|nulo|nulo|nulo|nulo"_s});
+    EXPECT_EQ(totales(), (QStringList{u"0|nulo|nulo|nulo|nulo|nulo"_s, u"nulo|nulo|nulo|nulo|nulo|nulo"_s}));
+    EXPECT_EQ(m_puesto.filas(u"texto2,numerico1"_s), (QStringList{u"nulo|60"_s, u"Caja Inicial|nulo"_s}));
 }
 
 TEST(CajaTicketsSentenciasDeListadosTest, TheReportsDatabaseIsWrittenInThisOrder)

@@ -56,6 +56,14 @@ TEST_F(ListadoPorServiciosTest, CodeTwoOfAnyKindIsNeitherListedNorCounted)
     EXPECT_EQ(totales(), u"12,1|1|1"_s);
 }
 
+TEST_F(ListadoPorServiciosTest, ALineWhoseKindIsWrittenSmallIsFoundAndCountsWithoutABlock)
+{
+    m_tienda.vende({.numero = 7}, {{.tipo = u"'s'"_s, .unidades = 2}, {.tipo = u"'b'"_s, .unidades = 10}});
+    m_tienda.devuelve({.venta = 70}, {{.tipo = u"'s'"_s, .unidades = 3, .precio = u"4"_s}});
+    EXPECT_EQ(totales(), u"20,2|9|1"_s) << "12.10 twice less 4, units 2 and 10 less 3";
+    EXPECT_EQ(m_tienda.filas(u"texto22"_s), (QStringList{u"nulo"_s, u"nulo"_s, u"6"_s}));
+}
+
 TEST_F(ListadoPorServiciosTest, ATicketWithProductsAloneCountsAndHasNoRow)
 {
     m_tienda.vende({.numero = 7}, {{.tipo = u"'P'"_s}});

@@ -26,11 +26,13 @@ TEST_F(MovimientosDeCajaTest, TheOpeningCashIsTheFirstOfTheDayAndNoneOverALonger
     EXPECT_EQ(cajaInicialDelDia(m_tienda.listados), 0);
 }
 
-TEST_F(MovimientosDeCajaTest, AnOpeningCashWithoutARowIsNullAndOneWithoutAnAmountEndsTheRun)
+TEST_F(MovimientosDeCajaTest, AnOpeningCashWithoutAnAmountEndsTheRun)
 {
-    EXPECT_EQ(importeDeCajaInicial(m_tienda.listados), Valor{});
+    Recordset cajas;
+    EXPECT_FALSE(abreCajaInicial(m_tienda.listados, cajas));
     m_tienda.tienda.ejecuta(u"insert into caja_inicial (fecha, tienda) values (#03/15/2024#, 'Centro')"_s);
-    EXPECT_EQ(m_tienda.error([](Listados& listados) { static_cast<void>(importeDeCajaInicial(listados)); }),
+    EXPECT_TRUE(abreCajaInicial(m_tienda.listados, cajas));
+    EXPECT_EQ(m_tienda.error([](Listados& listados) { static_cast<void>(cajaInicialDelDia(listados)); }),
               ErrorEjecucion::UsoNoValidoDeNull);
 }
 

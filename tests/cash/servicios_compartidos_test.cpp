@@ -147,6 +147,15 @@ TEST_F(ServiciosCompartidosTest, AShareWithoutAnAmountEndsTheRunAndEarlierGroups
     parte(-1, u"8"_s, u"S"_s, u"7"_s, u"6"_s);
     parte(-1, u"7"_s, u"S"_s, u"7"_s, u"null"_s);
     EXPECT_EQ(numeroDeError([&] { return anulados(); }), ErrorEjecucion::UsoNoValidoDeNull);
+    EXPECT_EQ(filas(), (QStringList{u"3|Ana P|5|Servicios"_s, u"7|Luis G|6|Servicios"_s}));
+}
+
+TEST_F(ServiciosCompartidosTest, AShareWithoutAnEmployeeIsRefusedAndEarlierGroupsStay)
+{
+    anulada(-1);
+    parte(-1, u"9"_s, u"S"_s, u"3"_s, u"5"_s);
+    parte(-1, u"8"_s, u"S"_s, u"null"_s, u"6"_s);
+    EXPECT_EQ(numeroDeError([&] { return anulados(); }), ErrorEjecucion::SentenciaRechazada);
     EXPECT_EQ(filas(), QStringList{u"3|Ana P|5|Servicios"_s});
 }
 

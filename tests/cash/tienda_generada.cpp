@@ -46,8 +46,8 @@ private:
     QString pago() { return uno(std::array{u"1", u"1", u"2", u"2", u"3", u"4", u"9"}); }
     QString tipo()
     {
-        return uno(std::array{u"'S'", u"'S'", u"'P'", u"'P'", u"'B'", u"'CB'", u"'F'", u"'BF'", u"'CBF'", u"'PSPA'", u"'CPSPA'", u"'SF'",
-                              u"'CSF'", u"'SP'"});
+        return uno(std::array{u"'S'", u"'S'", u"'P'", u"'P'", u"'B'", u"'CB'", u"'F'", u"'BF'", u"'CBF'", u"'PSPA'", u"'CPSPA'",
+                              u"'SF'", u"'CSF'", u"'SP'"});
     }
 
     void alta(const QString& tabla, const QString& columnas, const QStringList& valores)
@@ -74,8 +74,16 @@ private:
     {
         QString columnas =
             u"numero, fechaventa, tienda, cliente, empleado, pago, total, efectivo, tarjeta, num_albaran, caracteristicaventa"_s;
-        QStringList valores{QString::number(numero), dia(), tienda(), QString::number(hasta(6)), QString::number(1 + hasta(4)), pago(),
-                            importe(400), importe(200), importe(200), uno(std::array{u"null", u"0", u"7"}),
+        QStringList valores{QString::number(numero),
+                            dia(),
+                            tienda(),
+                            QString::number(hasta(6)),
+                            QString::number(1 + hasta(4)),
+                            pago(),
+                            importe(400),
+                            importe(200),
+                            importe(200),
+                            uno(std::array{u"null", u"0", u"7"}),
                             uno(std::array{u"null", u"'DV'", u"''"})};
         if (cabecera.endsWith(u"anulaciones")) {
             columnas += u", fecha, borrar"_s;
@@ -100,16 +108,26 @@ private:
         const QString codigo = QString::number(1 + hasta(5));
         const QString suTipo = tabla.endsWith(u"anulaciones") && unoDeCada(8) ? u"null"_s : tipo();
         const QString tasa = tabla == u"detalle_abono" ? QString{} : u", tipoimpuesto"_s;
-        QStringList valores{numeros, codigo, suTipo, u"'Línea %1'"_s.arg(hasta(100)), uno(std::array{u"1", u"2", u"10", u"0.5", u"1.5"}),
-                            importe(400), importe(80), tabla == u"detalle_abono" && unoDeCada(2) ? u"null"_s : importe(8), importe(200),
+        QStringList valores{numeros,
+                            codigo,
+                            suTipo,
+                            u"'Línea %1'"_s.arg(hasta(100)),
+                            uno(std::array{u"1", u"2", u"10", u"0.5", u"1.5"}),
+                            importe(400),
+                            importe(80),
+                            tabla == u"detalle_abono" && unoDeCada(2) ? u"null"_s : importe(8),
+                            importe(200),
                             compartida ? u"''"_s : uno(std::array{u"'Ana'", u"'Ana Paz'", u"'Ana  Paz Gil'"}),
-                            compartida ? u"-1"_s : QString::number(1 + hasta(4)), uno(std::array{u"null", u"'-1'", u"'10'", u"'20'"}),
+                            compartida ? u"-1"_s : QString::number(1 + hasta(4)),
+                            uno(std::array{u"null", u"'-1'", u"'10'", u"'20'"}),
                             tienda()};
         if (!tasa.isEmpty())
             valores += uno(std::array{u"0", u"4", u"10", u"21"});
         alta(tabla,
-             columnasDelNumero + u", codigo, tipo_venta, producto, unidades, precio, impuesto, impuesto_2, precio_unit, NombreEmpleado, "
-                                 "codEmpleado, codproductotextil, tienda"_s + tasa,
+             columnasDelNumero +
+                 u", codigo, tipo_venta, producto, unidades, precio, impuesto, impuesto_2, precio_unit, NombreEmpleado, "
+                 "codEmpleado, codproductotextil, tienda"_s +
+                 tasa,
              valores);
         if (compartida && columnasDelNumero == u"num_factura")
             reparte(numeros, codigo, suTipo == u"null" ? u"'S'"_s : suTipo);
@@ -127,14 +145,17 @@ private:
     {
         const QString factura = QString::number(100 + hasta(10));
         alta(u"cabecera_abono"_s, u"numero, num_factura, fechaventa, tienda, cliente, pago, total, efectivo, tarjeta"_s,
-             {QString::number(numero), factura, dia(), tienda(), QString::number(hasta(6)), pago(), importe(200), importe(100), importe(100)});
-        lineas(u"detalle_abono"_s, u"num_abono, num_factura"_s, u"%1, %2"_s.arg(QString::number(numero), unoDeCada(2) ? factura : u"1"_s));
+             {QString::number(numero), factura, dia(), tienda(), QString::number(hasta(6)), pago(), importe(200), importe(100),
+              importe(100)});
+        lineas(u"detalle_abono"_s, u"num_abono, num_factura"_s,
+               u"%1, %2"_s.arg(QString::number(numero), unoDeCada(2) ? factura : u"1"_s));
     }
 
     void albaran(int numero)
     {
         alta(u"cabecera_factura_temp"_s, u"numero, fecha, num_albaran, cliente, empleado, pago"_s,
-             {QString::number(numero), dia(), uno(std::array{u"null", u"0", u"7", u"8"}), QString::number(hasta(6)), u"1"_s, pago()});
+             {QString::number(numero), dia(), uno(std::array{u"null", u"0", u"7", u"8"}), QString::number(hasta(6)), u"1"_s,
+              pago()});
         lineas(u"detalle_factura_temp"_s, u"num_factura"_s, QString::number(numero));
     }
 
@@ -142,10 +163,11 @@ private:
     {
         for (int numero = 1; numero <= 3; ++numero) {
             alta(u"cabecera_pago"_s, u"num_pago, num_factura, importe, cliente, empleado, fecha, estado, tienda"_s,
-                 {QString::number(numero), QString::number(101 + hasta(9)), importe(100), QString::number(hasta(6)), u"2"_s, dia(), u"0"_s,
-                  tienda()});
+                 {QString::number(numero), QString::number(101 + hasta(9)), importe(100), QString::number(hasta(6)), u"2"_s, dia(),
+                  u"0"_s, tienda()});
             alta(u"detalle_pago"_s, u"num_pago, fecha, importe, forma_pago, empleado, efectivo, tarjeta, tienda"_s,
-                 {QString::number(1 + hasta(4)), dia(), importe(40), pago(), QString::number(1 + hasta(5)), importe(20), importe(20), tienda()});
+                 {QString::number(1 + hasta(4)), dia(), importe(40), pago(), QString::number(1 + hasta(5)), importe(20),
+                  importe(20), tienda()});
         }
     }
 
@@ -165,8 +187,9 @@ private:
     void vales()
     {
         for (int i = 0; i < 3; ++i)
-            alta(u"vales_descuento"_s, u"desde, num_factura, descuento, num_factura_aplicado"_s,
-                 {dia(), QString::number(100 + hasta(10)), importe(60), unoDeCada(2) ? u"null"_s : QString::number(101 + hasta(9))});
+            alta(
+                u"vales_descuento"_s, u"desde, num_factura, descuento, num_factura_aplicado"_s,
+                {dia(), QString::number(100 + hasta(10)), importe(60), unoDeCada(2) ? u"null"_s : QString::number(101 + hasta(9))});
     }
 
     std::mt19937 m_azar;

@@ -11,7 +11,7 @@ namespace kestrane {
     return contexto.FechaDesde.diaDeSerie() == contexto.FechaHasta.diaDeSerie();
 }
 
-/// Whether the lines of annulled sales are read for the chosen store alone. Their headers always are.
+/// Whether the lines of annulled sales are read for the chosen store alone.
 [[nodiscard]] inline bool limitaLineasAnuladas(const ContextoEjecucion& contexto)
 {
     return !contexto.TiendaSeleccionada.isEmpty() && contexto.MultiTienda;

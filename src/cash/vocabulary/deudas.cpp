@@ -27,6 +27,12 @@ double ImportePendiente(Listados& listados, const Valor& venta)
                        [](Recordset& fila) { return fila.Fields(u"importe").doble(); });
 }
 
+void anunciaDeudas(const ContextoEjecucion& contexto, Recordset& ventas)
+{
+    consultaDePagoPendiente(contexto).anuncia(ventas, u"Numero"_s);
+    consultaDeImportePendiente().anuncia(ventas, u"Numero"_s);
+}
+
 ConsultaPorCodigo consultaDeFacturaDelPago()
 {
     return {u"Select num_factura from cabecera_pago where num_pago = "_s, {}};

@@ -12,6 +12,9 @@ namespace kestrane {
 [[nodiscard]] double ImportePendiente(Listados& listados, const Valor& venta);
 [[nodiscard]] ConsultaPorCodigo consultaDeImportePendiente();
 
+/// Both questions will be asked for each row of `ventas`, by its `Numero`.
+void anunciaDeudas(const ContextoEjecucion& contexto, Recordset& ventas);
+
 /// The sale and the client of a debt; 0 when there is no such debt.
 [[nodiscard]] qint32 FacturaDelPago(Listados& listados, const Valor& pago);
 [[nodiscard]] qint32 ClienteDelPago(Listados& listados, const Valor& pago);

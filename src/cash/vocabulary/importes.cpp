@@ -14,7 +14,7 @@ Valor importes::resta(const Valor& a, const Valor& b)
 
 Valor importes::opuesto(const Valor& a)
 {
-    return a.esNulo() ? Valor{} : Valor{-a.doble()};
+    return a.esNulo() ? Valor{} : Valor{0.0 - a.doble()};
 }
 
 Valor impuestosDeLinea(Recordset& linea)

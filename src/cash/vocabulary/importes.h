@@ -9,6 +9,7 @@ namespace kestrane {
 namespace importes {
 [[nodiscard]] Valor suma(const Valor& a, const Valor& b);
 [[nodiscard]] Valor resta(const Valor& a, const Valor& b);
+/// The opposite of 0 is 0.
 [[nodiscard]] Valor opuesto(const Valor& a);
 } // namespace importes
 

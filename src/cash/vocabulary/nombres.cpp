@@ -8,8 +8,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString ClienteGenerico = u"Cliente Generico"_s;
-
 /// Clients of no store are found as long as none is chosen.
 QString colaDeCliente(const ContextoEjecucion& contexto)
 {
@@ -42,13 +40,13 @@ ConsultaPorCodigo consultaDeClienteNif(const ContextoEjecucion& contexto)
 
 QString NombreCliente(Listados& listados, const Valor& codigo)
 {
-    return primeraFila(listados, consultaDeCliente(listados.contexto).sentencia(listados, codigo), ClienteGenerico,
+    return primeraFila(listados, consultaDeCliente(listados.contexto).sentencia(listados, codigo), ClienteGenerico.toString(),
                        [&](Recordset& fila) { return nombreYApellidos(listados, fila); });
 }
 
 QString NombreClienteNif(Listados& listados, const Valor& codigo, QString& nif)
 {
-    return primeraFila(listados, consultaDeClienteNif(listados.contexto).sentencia(listados, codigo), ClienteGenerico,
+    return primeraFila(listados, consultaDeClienteNif(listados.contexto).sentencia(listados, codigo), ClienteGenerico.toString(),
                        [&](Recordset& fila) {
                            nif = listados.texto(fila.Fields(u"NIF"));
                            return nombreYApellidos(listados, fila);

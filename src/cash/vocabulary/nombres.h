@@ -6,6 +6,9 @@
 /// row each has its fallback; a name that is Null in the row found is "".
 namespace kestrane {
 
+/// How a client is called of whom nothing is known.
+inline constexpr QStringView ClienteGenerico = u"Cliente Generico";
+
 /// `Nombre`, a blank and `Apellidos` of `clientes`, "Cliente Generico" when there is none. With a store chosen only its clients are
 /// found, without one those of no store too.
 [[nodiscard]] QString NombreCliente(Listados& listados, const Valor& codigo);

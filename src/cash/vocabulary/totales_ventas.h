@@ -13,7 +13,7 @@ struct TotalesVentas
     double TotalPacksSpa = 0;
     double TotalProductos = 0;
     double CosteProductos = 0;    ///< what the products cost the shop
-    Contador16 UnidadesServicios; ///< services and sessions, bonos as one
+    Contador16 UnidadesServicios; ///< services and sessions; a sold bono is one, a returned one its units
     Contador16 NumeroTickets;
 };
 
