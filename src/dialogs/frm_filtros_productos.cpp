@@ -1,6 +1,6 @@
 #include "dialogs/frm_filtros_productos.h"
 
-#include <QButtonGroup>
+#include <QRadioButton>
 
 namespace kestrane {
 
@@ -72,11 +72,11 @@ void FrmFiltrosProductos::elegido(BloqueProductos cual)
 
 void FrmFiltrosProductos::desmarcaClases()
 {
-    QButtonGroup& grupo = *m_clases.first()->group();
-    grupo.setExclusive(false);
-    for (QRadioButton* const clase : m_clases)
+    for (QRadioButton* const clase : m_clases) {
+        clase->setAutoExclusive(false); // one of several that exclude each other is not left unmarked
         clase->setChecked(false);
-    grupo.setExclusive(true);
+        clase->setAutoExclusive(true);
+    }
 }
 
 void FrmFiltrosProductos::acepta(BloqueProductos cual)

@@ -3,7 +3,6 @@
 #include "platform/controls/boton_menu.h"
 #include "platform/suite/windows/propiedades_ventana.h"
 
-#include <QButtonGroup>
 #include <QGridLayout>
 
 /// The dialog's controls, put together.
@@ -89,12 +88,10 @@ void FrmFiltrosProductos::llenaConClases()
 {
     QFrame* const marco = m_bloques.at(BloqueProductos::Tipo).marco;
     auto* columna = qobject_cast<QVBoxLayout*>(marco->layout());
-    auto* grupo = new QButtonGroup{marco};
     for (const OpcionDeClase& opcion : opcionesDeClase()) {
         auto* suya = new QRadioButton{opcion.leyenda.toString(), marco};
         suya->setObjectName(opcion.control.toString());
         suya->setMinimumHeight(LadoTactil);
-        grupo->addButton(suya);
         columna->addWidget(suya, 0, Qt::AlignLeft);
         m_clases += suya;
         connect(suya, &QRadioButton::clicked, this, [this, &opcion] {

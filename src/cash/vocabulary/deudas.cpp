@@ -6,6 +6,12 @@ namespace kestrane {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+constexpr Fecha SinPagos = Fecha::deSerie(36526, 0); // 1/1/2000
+
+} // namespace
+
 ConsultaPorCodigo consultaDePagoPendiente(const ContextoEjecucion& contexto)
 {
     return {u"Select num_pago from cabecera_pago where num_factura= "_s, u" and tienda like "_s + patronTienda(contexto)};
@@ -59,8 +65,7 @@ Fecha UltimaFechaPago(Listados& listados, const Valor& pago)
 {
     const QString sentencia =
         u"Select fecha from detalle_pago where num_pago = "_s + listados.texto(pago) + u" order by fecha desc"_s;
-    return primeraFila(listados, sentencia, *Fecha::deCalendario(2000, 1, 1),
-                       [](Recordset& fila) { return fila.Fields(u"fecha").fecha(); });
+    return primeraFila(listados, sentencia, SinPagos, [](Recordset& fila) { return fila.Fields(u"fecha").fecha(); });
 }
 
 double TotalPagado(Listados& listados, const Valor& pago)

@@ -17,7 +17,6 @@ protected:
     explicit DecisionDeFiltro(ContextoEjecucion& contexto) : m_contexto{contexto} {}
     ~DecisionDeFiltro() = default;
     DecisionDeFiltro(const DecisionDeFiltro&) = default;
-    DecisionDeFiltro& operator=(const DecisionDeFiltro&) = delete;
 
     [[nodiscard]] ContextoEjecucion& contexto() const { return m_contexto; }
 
