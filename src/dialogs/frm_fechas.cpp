@@ -28,8 +28,7 @@ void FrmFechas::monta()
     filtros->addWidget(m_periodo);
     m_completo = casilla(u"ch_Completo"_s, u"Completo"_s, m_frFiltros);
     filtros->addWidget(m_completo);
-    m_tienda = new EleccionDeTienda{contexto(), m_frFiltros};
-    filtros->addWidget(m_tienda, 1);
+    filtros->addStretch(1);
     m_frFormatos = formatos();
 
     auto* capas = new QGridLayout{m_frame4}; // the panel of formats stands in the same place as the filters
@@ -38,7 +37,9 @@ void FrmFechas::monta()
     capas->addWidget(m_frFormatos, 0, 0);
     QPushButton* const aceptar = botonAceptar(m_frame1);
     auto* interior = new QVBoxLayout{m_frame1};
-    interior->addWidget(m_frame4, 1);
+    m_tienda = new EleccionDeTienda{contexto(), m_frame1}; // beside the two panels: in sight behind either of them
+    interior->addWidget(m_frame4);
+    interior->addWidget(m_tienda, 1);
     interior->addLayout(pie({aceptar, botonSalir(m_frame1)}));
     auto* columna = new QVBoxLayout{this};
     columna->setContentsMargins({});
@@ -95,6 +96,7 @@ void FrmFechas::carga()
 void FrmFechas::pantallaInicial()
 {
     m_frFormatos->hide();
+    m_frFiltros->setEnabled(true);
     m_folio->ponLeyenda(m_preparacion.Titulo + u" formato Folio"_s);
     m_ticket->ponLeyenda(m_preparacion.Titulo + u" formato Ticket"_s);
     m_decision.completa(false);
@@ -117,6 +119,7 @@ void FrmFechas::aceptaEnFormato(bool ticket)
 
 void FrmFechas::ensenaFormatos()
 {
+    m_frFiltros->setEnabled(false); // from here there is no way back to the dates, by the keyboard neither
     m_frFormatos->show();
     m_frFormatos->raise();
     m_folio->setFocus();

@@ -87,7 +87,7 @@ void FrmHistoricoXEmpleados::vuelve()
 {
     m_decision.vuelve();
     m_conEmpleados->hide();
-    m_uno->setFocus();
+    (m_quien->isEnabled() ? m_uno : m_detallado)->setFocus();
 }
 
 } // namespace kestrane

@@ -133,6 +133,11 @@ void FrmMeses::ensena()
     m_numeroMes->setText(QString::number(m_decision.mes()));
     m_mes->setText(m_decision.nombreDelMes());
     m_anio->setText(QString::number(m_decision.anio()));
+    // The keyboard goes to the twin of a button that goes away, not to whatever follows.
+    if (m_mesSiguiente->hasFocus() && !m_decision.seVeMesSiguiente())
+        m_marco->findChild<QPushButton*>(u"cmdAntMes"_s)->setFocus();
+    if (m_anioSiguiente->hasFocus() && !m_decision.seVeAnioSiguiente())
+        m_marco->findChild<QPushButton*>(u"cmdAntAño"_s)->setFocus();
     m_mesSiguiente->setVisible(m_decision.seVeMesSiguiente());
     m_anioSiguiente->setVisible(m_decision.seVeAnioSiguiente());
 }

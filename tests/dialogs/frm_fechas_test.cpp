@@ -126,6 +126,53 @@ TEST_F(FrmFechasTest, AWrongPeriodLeavesTheFormatsInSightWithNoWayBackToTheDates
     EXPECT_TRUE(formatosALaVista());
 }
 
+TEST_F(FrmFechasTest, WithTheFormatsInSightTheKeyboardDoesNotReachTheDatesBelow)
+{
+    abre(true);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&*m_forma));
+    pulsa(u"Command1"_s);
+    const QWidget& filtros = control(*m_forma, u"frFiltros"_s);
+    for (int pasos = 0; pasos < 40; ++pasos) {
+        QTest::keyClick(m_forma->focusWidget(), Qt::Key_Tab);
+        ASSERT_FALSE(filtros.isAncestorOf(m_forma->focusWidget())) << m_forma->focusWidget()->objectName().toStdString();
+    }
+    EXPECT_TRUE(formatosALaVista());
+}
+
+TEST_F(FrmFechasTest, WithTheFormatsInSightTheDialogCanBeLeft)
+{
+    abre(true);
+    pulsa(u"Command1"_s);
+    pulsa(u"cmd_Salir"_s);
+    EXPECT_FALSE(m_forma->isVisible());
+    EXPECT_FALSE(m_contexto.FiltroAceptado);
+}
+
+TEST_F(FrmFechasTest, TheChosenStoreStaysInSightAndCanBeChangedBehindTheFormats)
+{
+    enServidorCon({u"Sur"_s, u"Norte"_s});
+    abre(true);
+    pulsa(u"Command1"_s);
+    const QWidget& tienda = control(*m_forma, u"lblInfoTienda"_s);
+    const QWidget& formatos = control(*m_forma, u"frFormatos"_s);
+    const QRect suyo{tienda.mapTo(&*m_forma, QPoint{}), tienda.size()};
+    const QRect cubierto{formatos.mapTo(&*m_forma, QPoint{}), formatos.size()};
+    EXPECT_TRUE(tienda.isVisible());
+    EXPECT_FALSE(suyo.intersects(cubierto));
+    EXPECT_TRUE(control(*m_forma, u"PanelTiendas"_s).isEnabled());
+}
+
+TEST_F(FrmFechasTest, EnterOnADayOfTheMonthAcceptsTheDialog)
+{
+    abre();
+    auto* const dias = control<Calendario>(*m_forma, u"cld_Hasta"_s).mes().findChild<QWidget*>(u"qt_calendar_calendarview"_s);
+    ASSERT_NE(dias, nullptr);
+    dias->setFocus();
+    QTest::keyClick(dias, Qt::Key_Return);
+    EXPECT_TRUE(m_contexto.FiltroAceptado);
+    EXPECT_FALSE(m_forma->isVisible());
+}
+
 TEST_F(FrmFechasTest, EnterAcceptsTheFirstStageFirst)
 {
     abre(true);

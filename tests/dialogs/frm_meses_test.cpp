@@ -134,5 +134,19 @@ TEST_F(FrmMesesTest, OnTheServerAStoreIsChosen)
     EXPECT_EQ(control<QLabel>(forma, u"lblInfoTienda"_s).text(), u"Sur"_s);
 }
 
+TEST_F(FrmMesesTest, AForwardButtonThatGoesAwayLeavesTheKeyboardToItsTwin)
+{
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&forma));
+    for (const auto& [atras, adelante] : {std::pair{u"cmdAntMes"_s, u"cmdSigMes"_s}, {u"cmdAntAño"_s, u"cmdSigAño"_s}}) {
+        pulsa(atras);
+        QWidget& siguiente = control(forma, adelante);
+        siguiente.setFocus();
+        QTest::keyClick(&siguiente, Qt::Key_Space);
+        EXPECT_FALSE(siguiente.isVisible());
+        EXPECT_TRUE(control(forma, atras).hasFocus()) << adelante.toStdString();
+    }
+    EXPECT_FALSE(m_contexto.CajaCompleta);
+}
+
 } // namespace
 } // namespace kestrane

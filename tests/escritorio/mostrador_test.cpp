@@ -164,6 +164,29 @@ TEST_F(MostradorTest, WithTheKeyboardAloneAListingIsLeftHalfWayAndAskedForAgain)
     EXPECT_EQ(m_contexto.filtros.columnaOrden, u"Codigo"_s);
 }
 
+/// With the mouse alone: a report with formats is left half-way, behind its first stage, and asked for again.
+TEST_F(MostradorTest, AReportLeftAtItsFormatsIsAskedForAgainByTheMouseAlone)
+{
+    const auto pideY = [this](const QStringList& pulsados) {
+        QTimer::singleShot(0, &m_mostrador.menu(), [pulsados] {
+            QWidget* const dialogo = QApplication::activeModalWidget();
+            ASSERT_NE(dialogo, nullptr);
+            for (const QString& nombre : pulsados)
+                QTest::mouseClick(dialogo->findChild<QWidget*>(nombre), Qt::LeftButton);
+        });
+        pulsa(u"cmd_Caja3"_s);
+    };
+    m_contexto.PermiteListadoVariosDias = true;
+    m_tienda.ejecuta({u"insert into caja_inicial (fecha, tienda, importe) values (#03/15/2024#, 'Centro', 50)"_s,
+                      u"insert into gastos (fecha, tienda, importe, motivo) values (#03/15/2024#, 'Centro', 5, 'Luz')"_s});
+    pideY({u"Command1"_s, u"cmd_Salir"_s});
+    EXPECT_EQ(vistas(), 0U);
+    EXPECT_FALSE(m_contexto.FiltroAceptado);
+    pideY({u"Command1"_s, u"cmdFolio"_s});
+    EXPECT_TRUE(m_contexto.FiltroAceptado);
+    EXPECT_EQ(vistas(), 1U);
+}
+
 TEST_F(MostradorTest, EachDialogIsOfferedUnderItsNameAndGoneWhenItIsLeft)
 {
     const std::pair<Dialogo, QString> casos[] = {

@@ -134,7 +134,7 @@ ArrayPanel cargaPanel(ContextoEjecucion& contexto, PanelDe panel, BotonDeTodos t
     const Origen& origen = origenDe(panel);
     Recordset filas;
     filas.Open(origen.sentencia.toString(), contexto.ConexionTienda, database::CursorType::Keyset);
-    if (filas.RecordCount() <= 0)
+    if (filas.RecordCount() <= 0 && todos == BotonDeTodos::Sin)
         return elementos;
     elementos.reserva(filas.RecordCount());
     int lugar = 0;

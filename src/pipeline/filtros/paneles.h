@@ -22,7 +22,8 @@ inline constexpr qint32 CodigoDeTodos = -1;
 [[nodiscard]] ElementoPanel elementoDeTodos(PanelDe panel);
 
 /// The live records in the order of their places, with bounds from 0 to their number: the button for all stands first, and without
-/// it the last element is blank. Unallocated when there are no records. Pictures of employees lie in `RutaFotos`.
+/// it the last element is blank. Without records it holds the button for all alone, or is unallocated without one. Pictures of
+/// employees lie in `RutaFotos`.
 ///
 /// An element takes its record's colour, white when there is none, if the record says that it has one; else the next of
 /// `colores`, and after the fourth the first again. An employee whose colour is an empty text takes the next one too.

@@ -1,5 +1,6 @@
 #include "pipeline/forms/mensajes_en_ventana.h"
 
+#include <QApplication>
 #include <QPushButton>
 
 namespace kestrane {
@@ -15,7 +16,8 @@ constexpr int AnchoBoton = 120;
 
 void MensajesEnVentana::muestra(QMessageBox::Icon icono, const QString& texto, const QString& titulo)
 {
-    QMessageBox caja{m_principal};
+    QWidget* const dialogo = QApplication::activeModalWidget(); // the box stands over what is asked
+    QMessageBox caja{dialogo ? dialogo : m_principal};
     caja.setIcon(icono);
     caja.setWindowTitle(titulo);
     caja.setTextFormat(Qt::PlainText);

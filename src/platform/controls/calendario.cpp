@@ -3,6 +3,9 @@
 #include "platform/controls/boton_menu.h"
 #include "platform/controls/fechas_de_ventana.h"
 
+#include <QAbstractItemView>
+#include <QCoreApplication>
+#include <QKeyEvent>
 #include <QTextCharFormat>
 #include <QVBoxLayout>
 
@@ -31,6 +34,7 @@ QCalendarWidget* mesEn(QWidget* padre)
 Calendario::Calendario(const QString& objeto, QWidget* padre) : QWidget{padre}, m_escrita{new QDateEdit{this}}, m_mes{mesEn(this)}
 {
     setObjectName(objeto);
+    m_escrita->setLocale(m_mes->locale());
     m_escrita->setDisplayFormat(u"dd/MM/yyyy"_s);
     m_escrita->setDateRange({Fecha::PrimerAnio, 1, 1}, {Fecha::UltimoAnio, 12, 31});
     m_escrita->setMinimumHeight(LadoTactil);
@@ -42,11 +46,25 @@ Calendario::Calendario(const QString& objeto, QWidget* padre) : QWidget{padre}, 
     columna->addWidget(m_escrita);
     columna->addWidget(m_mes, 1);
     setFocusProxy(m_escrita);
+    for (auto* const dias : m_mes->findChildren<QAbstractItemView*>())
+        dias->installEventFilter(this);
     connect(m_escrita, &QDateEdit::dateChanged, m_mes, &QCalendarWidget::setSelectedDate);
     connect(m_mes, &QCalendarWidget::selectionChanged, this, [this] {
         m_escrita->setDate(m_mes->selectedDate());
         emit cambiada();
     });
+}
+
+bool Calendario::eventFilter(QObject* objeto, QEvent* suceso)
+{
+    if (suceso->type() == QEvent::KeyPress) {
+        const int tecla = static_cast<QKeyEvent*>(suceso)->key();
+        if (tecla == Qt::Key_Return || tecla == Qt::Key_Enter) {
+            QCoreApplication::sendEvent(parentWidget(), suceso);
+            return true;
+        }
+    }
+    return QWidget::eventFilter(objeto, suceso);
 }
 
 Fecha Calendario::fecha() const

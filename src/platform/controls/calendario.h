@@ -30,6 +30,10 @@ public:
 signals:
     void cambiada();
 
+protected:
+    /// Enter on a day is Enter in the window: the month would keep it.
+    bool eventFilter(QObject* objeto, QEvent* suceso) override;
+
 private:
     QDateEdit* m_escrita;
     QCalendarWidget* m_mes;

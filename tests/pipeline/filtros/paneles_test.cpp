@@ -51,11 +51,14 @@ protected:
     ContextoEjecucion m_contexto{m_tienda.entorno()};
 };
 
-TEST_F(PanelesTest, WithoutRecordsAnArrayStaysUnallocated)
+TEST_F(PanelesTest, WithoutRecordsAnArrayHoldsTheButtonForAllOrStaysUnallocated)
 {
     for (const PanelDe panel : {PanelDe::Secciones, PanelDe::Empleados, PanelDe::Proveedores}) {
         EXPECT_FALSE(carga(panel).reservado());
-        EXPECT_FALSE(carga(panel, BotonDeTodos::Con).reservado());
+        const ArrayPanel conTodos = carga(panel, BotonDeTodos::Con);
+        ASSERT_TRUE(conTodos.reservado());
+        EXPECT_EQ(conTodos.limiteSuperior(), 0);
+        EXPECT_EQ(codigoDe(conTodos[0]), -1);
     }
     EXPECT_THROW((void)carga(PanelDe::Secciones).limiteSuperior(), ErrorEjecucion);
 }
