@@ -62,14 +62,14 @@ TEST_F(ListadoCajaGeneralTest, ARowHoldsSalesLessReturnsPlusAnnulledSalesFamilyB
     const QString tipos[] = {u"P"_s, u"S"_s, u"F"_s, u"PSPA"_s};
     for (int i = 0; i < 4; ++i) {
         linea(101, tipos[i], 9, 3, QString::number(100 + i));
-        devuelta(5, tipos[i], 9, 3, QString::number(10 * i));
-        lineaAnulada(-1, tipos[i], 9, 3, QString::number(1000 * i));
+        devuelta(5, tipos[i], 9, 3, QString::number(10 * (i + 1)));
+        lineaAnulada(-1, tipos[i], 9, 3, QString::number(1000 * (i + 1)));
     }
     construye();
-    EXPECT_EQ(importes(), QStringList{u"3|100|1091|2082|3073"_s});
+    EXPECT_EQ(importes(), QStringList{u"3|1090|2081|3072|4063"_s});
     m_contexto.CajaCompleta = false;
     construye();
-    EXPECT_EQ(importes(), QStringList{u"3|100|91|82|73"_s});
+    EXPECT_EQ(importes(), QStringList{u"3|90|81|72|63"_s});
 }
 
 TEST_F(ListadoCajaGeneralTest, SellersStandInTheOrderInWhichTheyTurnUp)
