@@ -61,6 +61,21 @@ TEST_F(CajaDiariaAbonosTest, TheyLowerTheTotalsWhateverTheyWerePaidWith)
     EXPECT_EQ(totales(), u"-80|-20|-8|-1|0"_s);
 }
 
+TEST_F(CajaDiariaAbonosTest, PaidWithADepositTheyKeepTheirTextAndTheirAmounts)
+{
+    m_tienda.devuelve({.pago = u"4"_s, .venta = 70});
+    EXPECT_EQ(filas(u"texto3,numerico2,numerico3"_s), QStringList{u"Abono: Corte|-14,2|-2,1"_s}) << "-(12.10 + 2.10)";
+}
+
+TEST_F(CajaDiariaAbonosTest, InRetailOneWhoseNumberOrSaleSpentAVoucherBearsNoMark)
+{
+    m_tienda.contexto.TipoPrograma = u"TPV"_s;
+    m_tienda.devuelve({.numero = 3, .venta = 70});
+    m_tienda.vale(98, 5, u"3"_s);
+    m_tienda.vale(99, 5, u"70"_s);
+    EXPECT_EQ(filas(u"texto10,texto3"_s), QStringList{u"3 / 70|Abono: Corte"_s});
+}
+
 TEST_F(CajaDiariaAbonosTest, TheReservedServiceIsNotSpared)
 {
     m_tienda.devuelve({.venta = 70}, {{.codigo = 2}});

@@ -65,14 +65,14 @@ TEST_F(CajaDiariaTotalesTest, FromDepositASaleCountsInUnitsCostAndTicketsAlone)
     EXPECT_EQ(totales(), u"0|0|4|1|1"_s);
 }
 
-TEST_F(CajaDiariaTotalesTest, ASaleWithoutPaymentCodeAddsNoMoney)
+TEST_F(CajaDiariaTotalesTest, TheNameOfANullPaymentCodeIsAskedForInAStatementThatIsRefused)
 {
     m_tienda.tienda.ejecuta(
         u"insert into cabecera_factura (numero, fechaventa, tienda, cliente) values (7, #03/15/2024#, 'Centro', 0)"_s);
     m_tienda.tienda.ejecuta(
         u"insert into detalle_factura (num_factura, codigo, tipo_venta, unidades, precio, tienda, NombreEmpleado)"
         " values (7, 1, 'S', 1, 9, 'Centro', 'Ana')"_s);
-    EXPECT_EQ(m_tienda.error(ListadoCajaDiaria), ErrorEjecucion::SentenciaRechazada) << "its name cannot be asked for";
+    EXPECT_EQ(m_tienda.error(ListadoCajaDiaria), ErrorEjecucion::SentenciaRechazada);
 }
 
 TEST_F(CajaDiariaTotalesTest, FractionsOfUnitsAreRoundedHalfToEvenAtEachLine)
@@ -131,6 +131,15 @@ TEST_F(CajaDiariaValesTest, AVoucherOfAnotherDayOrOfNoSaleIsNotListed)
     m_tienda.tienda.ejecuta(u"insert into vales_descuento (desde, num_factura, descuento) values (#03/14/2024#, 7, 5)"_s);
     m_tienda.vale(99, 5);
     EXPECT_EQ(subinformes(u"texto10"_s), QStringList{});
+}
+
+TEST_F(CajaDiariaValesTest, TheProgressBarDoesNotGoOnWithVouchers)
+{
+    m_tienda.vende({.numero = 7});
+    m_tienda.vale(7, 5);
+    m_tienda.vale(7, 3);
+    EXPECT_EQ(subinformes(u"numerico1"_s), (QStringList{u"5"_s, u"3"_s}));
+    EXPECT_EQ(m_tienda.progreso.pasos, 1) << "the line sold";
 }
 
 TEST_F(CajaDiariaValesTest, ShopsThatAreNotRetailListNone)

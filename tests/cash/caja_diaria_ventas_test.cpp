@@ -8,7 +8,6 @@ namespace kestrane {
 namespace {
 
 using namespace Qt::StringLiterals;
-using prueba::Linea;
 
 class CajaDiariaVentasTest : public testing::Test
 {
@@ -197,6 +196,13 @@ TEST_F(CajaDiariaRegularizadasTest, TheirLinesAreThoseOfTheStoreOnlyWithAStoreCh
     EXPECT_EQ(filas(u"texto3"_s), (QStringList{u"1 X Suya"_s, u"1 X Ajena"_s})) << "no chain";
     m_tienda.contexto.MultiTienda = true;
     EXPECT_EQ(filas(u"texto3"_s), QStringList{u"1 X Suya"_s});
+}
+
+TEST_F(CajaDiariaRegularizadasTest, AChainWithoutAStoreChosenShowsTheirLinesOfNoStoreToo)
+{
+    m_tienda.contexto.MultiTienda = true;
+    m_tienda.anula({.numero = 7}, {{}, {.producto = u"De nadie"_s, .tienda = u"null"_s}});
+    EXPECT_EQ(filas(u"texto3"_s), (QStringList{u"1 X Corte"_s, u"1 X De nadie"_s}));
 }
 
 TEST_F(CajaDiariaRegularizadasTest, AnUnpaidOneHasItsRowWithItsOwnDayOfSale)

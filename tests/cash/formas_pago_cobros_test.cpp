@@ -38,11 +38,13 @@ TEST_F(FormasPagoCobrosTest, APaymentOfADebtIsARowOfItsSaleWithoutSortKeyAndATic
 
 TEST_F(FormasPagoCobrosTest, ASplitPaymentOfADebtShowsItsMoneyTwice)
 {
-    m_tienda.debe(9, 70, 50, 5); // made by employee 2
+    m_tienda.debe(9, 70, 50, 5, u"#01/02/2024#"_s); // made by employee 2
     m_tienda.paga(9, 20, 3, u"#03/15/2024#"_s, 15, 5);
-    EXPECT_EQ(filas(u"numerico1,texto3,texto7,texto23,numerico2,texto22"_s),
-              (QStringList{u"70||Ana P|3|20|nulo"_s, u"70|Pagado al Contado Factura: 70|2|1|15|2"_s,
-                           u"70|Pagado en Tarjeta Factura: 70|2|2|5|2"_s}));
+    const QString comun = u"15/03/2024|70|70|70|Eva Ruiz|"_s;
+    EXPECT_EQ(filas(u"fecha3,numerico1,texto10,texto32,texto2,texto3,texto7,texto4,texto23,numerico2,numerico3,texto22,texto21"_s),
+              (QStringList{comun + u"|Ana P|Partido|3|20|0|nulo|Ventas Generales"_s,
+                           comun + u"Pagado al Contado Factura: 70|2|Contado|1|15|0|2|Ventas Generales"_s,
+                           comun + u"Pagado en Tarjeta Factura: 70|2|Tarjeta|2|5|0|2|Ventas Generales"_s}));
 }
 
 TEST_F(FormasPagoCobrosTest, PaymentsStandByTheNumberOfTheirDebt)

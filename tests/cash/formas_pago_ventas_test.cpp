@@ -42,10 +42,12 @@ TEST_F(FormasPagoVentasTest, TheKindOfLineDecidesItsBlockAndItsText)
                                    {.tipo = u"'BF'"_s},
                                    {.tipo = u"'PSPA'"_s},
                                    {.tipo = u"'CPSPA'"_s},
-                                   {.tipo = u"'SF'"_s}});
+                                   {.tipo = u"'SF'"_s},
+                                   {.tipo = u"'CSF'"_s}});
     EXPECT_EQ(filas(u"texto22,texto3"_s),
               (QStringList{u"2|Corte"_s, u"2|Corte"_s, u"2|Corte"_s, u"2|Corte"_s, u"2|Cons.Bono: Corte"_s, u"2|Cons.Bono: Corte"_s,
-                           u"3|10 de - Corte"_s, u"3|10 de - Corte"_s, u"nulo|Corte"_s, u"nulo|Corte"_s, u"nulo|Corte"_s}));
+                           u"3|10 de - Corte"_s, u"3|10 de - Corte"_s, u"nulo|Corte"_s, u"nulo|Corte"_s, u"nulo|Corte"_s,
+                           u"nulo|Corte"_s}));
 }
 
 TEST_F(FormasPagoVentasTest, TheSpaPackOfThisReportIsTheKindSP)
@@ -128,6 +130,30 @@ TEST_F(FormasPagoVentasTest, AnnulledLinesAreThoseOfTheStoreOnlyWithAStoreChosen
     EXPECT_EQ(filas(u"texto3"_s), (QStringList{u"Corte"_s, u"Ajena"_s}));
     m_tienda.contexto.MultiTienda = true;
     EXPECT_EQ(filas(u"texto3"_s), QStringList{u"Corte"_s});
+}
+
+TEST_F(FormasPagoVentasTest, AChainWithoutAStoreChosenShowsAnnulledLinesOfNoStoreToo)
+{
+    m_tienda.contexto.CajaCompleta = m_tienda.contexto.MultiTienda = true;
+    m_tienda.anula({.numero = 7}, {{}, {.producto = u"De nadie"_s, .tienda = u"null"_s}});
+    EXPECT_EQ(filas(u"texto3"_s), (QStringList{u"Corte"_s, u"De nadie"_s}));
+}
+
+TEST_F(FormasPagoVentasTest, AnAnnulledSaleLeftUnpaidIsInTheDebtsGroupAndIsNoDebtOfThePeriod)
+{
+    m_tienda.contexto.CajaCompleta = true;
+    m_tienda.anula({.numero = 7});
+    m_tienda.debe(1, 7, 4.5);
+    EXPECT_EQ(filas(u"texto4,texto23,numerico2,texto22,numerico19"_s), QStringList{u"Venta no cobrada|1 - Deuda|10|9|0"_s});
+    EXPECT_EQ(m_tienda.filas(u"texto1"_s, u"subinformes"_s), QStringList{});
+}
+
+TEST_F(FormasPagoVentasTest, AnAnnulledSaleFromDepositHasNoMoneyAndCountsInUnits)
+{
+    m_tienda.contexto.CajaCompleta = true;
+    m_tienda.anula({.numero = 7, .pago = u"4"_s});
+    EXPECT_EQ(filas(u"texto3,numerico2,numerico3,texto22,numerico13,numerico8"_s),
+              QStringList{u"Cons.Deposito: Corte|0|0|9|0|1"_s});
 }
 
 } // namespace

@@ -111,5 +111,16 @@ TEST_F(ListadoAlbaranesTest, TheShopIsAskedInTheseTextsToTheLastBlank)
         QStringList{});
 }
 
+TEST_F(ListadoAlbaranesTest, NoOtherColumnIsWritten)
+{
+    albaran(3, 80, {{}});
+    ListadoAlbaranes(m_tienda.listados);
+    EXPECT_EQ(m_tienda.escritas(0),
+              (QStringList{u"texto2"_s,    u"texto3"_s,    u"texto4"_s,    u"texto7"_s,     u"texto10"_s,    u"texto21"_s,
+                           u"texto22"_s,   u"texto23"_s,   u"texto34"_s,   u"texto35"_s,    u"numerico1"_s,  u"numerico2"_s,
+                           u"numerico3"_s, u"numerico8"_s, u"numerico9"_s, u"numerico13"_s, u"numerico14"_s, u"numerico17"_s,
+                           u"fecha1"_s,    u"fecha2"_s,    u"fecha3"_s}));
+}
+
 } // namespace
 } // namespace kestrane

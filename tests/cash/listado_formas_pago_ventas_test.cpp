@@ -88,5 +88,21 @@ TEST_F(ListadoFormasPagoVentasTest, TheStoreHeadsTheRowsOfAChainWithoutTheTaxNum
               QStringList{u"Tienda = |Peluquería Ñandú|Calle Mayor, 1|15/03/2024|15/03/2024"_s});
 }
 
+TEST_F(ListadoFormasPagoVentasTest, NoOtherColumnIsWritten)
+{
+    m_tienda.vende({.numero = 7});
+    m_tienda.debe(9, 70, 4);
+    m_tienda.paga(9, 2);
+    ListadoFormasPagoVentas(m_tienda.listados);
+    QStringList todas{u"texto2"_s,     u"texto3"_s,     u"texto4"_s,     u"texto7"_s,     u"texto10"_s,    u"texto21"_s,
+                      u"texto22"_s,    u"texto23"_s,    u"texto32"_s,    u"texto34"_s,    u"texto35"_s,    u"numerico1"_s,
+                      u"numerico2"_s,  u"numerico3"_s,  u"numerico8"_s,  u"numerico9"_s,  u"numerico10"_s, u"numerico13"_s,
+                      u"numerico14"_s, u"numerico16"_s, u"numerico17"_s, u"numerico18"_s, u"numerico19"_s, u"fecha1"_s,
+                      u"fecha2"_s,     u"fecha3"_s};
+    EXPECT_EQ(m_tienda.escritas(0), todas);
+    todas.removeOne(u"texto22"_s);
+    EXPECT_EQ(m_tienda.escritas(1), todas) << "the payment of a debt";
+}
+
 } // namespace
 } // namespace kestrane

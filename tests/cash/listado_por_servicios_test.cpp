@@ -117,6 +117,27 @@ TEST_F(ListadoPorServiciosTest, AnnulledLinesAreThoseOfTheStoreOnlyWithAStoreCho
     EXPECT_EQ(filas(u"texto3"_s), QStringList{u"Corte"_s});
 }
 
+TEST_F(ListadoPorServiciosTest, AChainWithoutAStoreChosenShowsAnnulledLinesOfNoStoreToo)
+{
+    m_tienda.contexto.CajaCompleta = m_tienda.contexto.MultiTienda = true;
+    m_tienda.anula({.numero = 7}, {{}, {.producto = u"De nadie"_s, .tienda = u"null"_s}});
+    EXPECT_EQ(filas(u"texto3"_s), (QStringList{u"Corte"_s, u"De nadie"_s}));
+}
+
+TEST_F(ListadoPorServiciosTest, AnAnnulledLineFromDepositHasNoMoney)
+{
+    m_tienda.contexto.CajaCompleta = true;
+    m_tienda.anula({.numero = 7, .pago = u"4"_s});
+    EXPECT_EQ(filas(u"texto3,numerico2,numerico3,texto22"_s), QStringList{u"Cons.Deposito: Corte|0|0|9"_s});
+}
+
+TEST_F(ListadoPorServiciosTest, AnAnnulledConsumptionOfABonoSaysSo)
+{
+    m_tienda.contexto.CajaCompleta = true;
+    m_tienda.anula({.numero = 7}, {{.tipo = u"'CB'"_s}});
+    EXPECT_EQ(filas(u"texto3,texto22"_s), QStringList{u"Cons.Bono: Corte|9"_s});
+}
+
 TEST_F(ListadoPorServiciosTest, AReturnTurnsTheSignOfItsSale)
 {
     m_tienda.devuelve({.numero = 3, .cliente = 5, .venta = 70},
@@ -138,6 +159,12 @@ TEST_F(ListadoPorServiciosTest, ABonoAddsOneUnitAndItsReturnTakesItsUnitsOff)
     m_tienda.vende({.numero = 70}, {{.tipo = u"'B'"_s, .unidades = 1}});
     m_tienda.devuelve({.venta = 70}, {{.tipo = u"'B'"_s, .unidades = 1}});
     EXPECT_EQ(totales(), u"0|0|1"_s);
+}
+
+TEST_F(ListadoPorServiciosTest, AReturnedBonoTakesAsManyUnitsAsItSays)
+{
+    m_tienda.devuelve({.venta = 70}, {{.tipo = u"'B'"_s, .unidades = 10}});
+    EXPECT_EQ(totales(), u"-12,1|-10|0"_s);
 }
 
 TEST_F(ListadoPorServiciosTest, InRetailAReturnThatLeftAVoucherIsListedToo)
@@ -212,6 +239,18 @@ TEST_F(ListadoPorServiciosTest, TheShopIsAskedInTheseTextsToTheLastBlank)
              u"Select Nombre from formapago where codigo = 1"_s, u"Select num_sesiones from cabecera_Bonos where num_factura= 7"_s},
             ListadoPorServicios),
         QStringList{});
+}
+
+TEST_F(ListadoPorServiciosTest, NoOtherColumnIsWritten)
+{
+    m_tienda.vende({.numero = 7});
+    ListadoPorServicios(m_tienda.listados);
+    EXPECT_EQ(m_tienda.escritas(0),
+              (QStringList{u"texto2"_s,     u"texto3"_s,     u"texto4"_s,     u"texto7"_s,     u"texto10"_s,    u"texto21"_s,
+                           u"texto22"_s,    u"texto23"_s,    u"texto24"_s,    u"texto34"_s,    u"texto35"_s,    u"numerico1"_s,
+                           u"numerico2"_s,  u"numerico3"_s,  u"numerico5"_s,  u"numerico8"_s,  u"numerico9"_s,  u"numerico10"_s,
+                           u"numerico11"_s, u"numerico13"_s, u"numerico16"_s, u"numerico17"_s, u"numerico18"_s, u"fecha1"_s,
+                           u"fecha2"_s,     u"fecha3"_s}));
 }
 
 } // namespace

@@ -26,6 +26,18 @@ TEST_F(MovimientosDeCajaTest, TheOpeningCashIsTheFirstOfTheDayAndNoneOverALonger
     EXPECT_EQ(cajaInicialDelDia(m_tienda.listados), 0);
 }
 
+TEST_F(MovimientosDeCajaTest, TheOpeningCashIsThatOfAStoreThatEndsInTheChosenOne)
+{
+    m_tienda.tienda.ejecuta({u"insert into caja_inicial (fecha, tienda, importe) values (#03/15/2024#, 'Centro Sur', 1)"_s,
+                             u"insert into caja_inicial (fecha, tienda, importe) values (#03/15/2024#, null, 2)"_s,
+                             u"insert into caja_inicial (fecha, tienda, importe) values (#03/15/2024#, 'Gran Centro', 30)"_s,
+                             u"insert into caja_inicial (fecha, tienda, importe) values (#03/15/2024#, 'Centro', 400)"_s});
+    m_tienda.contexto.TiendaSeleccionada = u"Centro"_s;
+    EXPECT_EQ(cajaInicialDelDia(m_tienda.listados), 30);
+    m_tienda.contexto.TiendaSeleccionada = u"Sur"_s;
+    EXPECT_EQ(cajaInicialDelDia(m_tienda.listados), 1);
+}
+
 TEST_F(MovimientosDeCajaTest, AnOpeningCashWithoutAnAmountEndsTheRun)
 {
     Recordset cajas;
@@ -67,6 +79,24 @@ TEST_F(MovimientosDeCajaTest, SumsAreOfThePeriodAndTheStoreAndNoneIsZero)
     m_tienda.contexto.TiendaSeleccionada = u"Sur"_s;
     EXPECT_EQ(sumaDeImportes(m_tienda.listados, u"gastos"_s), 0);
     EXPECT_EQ(importesDe(m_tienda.listados, u"gastos"_s), 0);
+}
+
+TEST_F(MovimientosDeCajaTest, TheDatabasesSumSkipsANullAndTheRowByRowSumEndsTheRun)
+{
+    m_tienda.mueve(u"gastos"_s, 4.5);
+    m_tienda.tienda.ejecuta(u"insert into gastos (fecha, tienda) values (#03/15/2024#, 'Centro')"_s);
+    m_tienda.mueve(u"gastos"_s, 1.25);
+    EXPECT_EQ(sumaDeImportes(m_tienda.listados, u"gastos"_s), 5.75);
+    EXPECT_EQ(m_tienda.error([](Listados& listados) { static_cast<void>(importesDe(listados, u"gastos"_s)); }),
+              ErrorEjecucion::UsoNoValidoDeNull);
+}
+
+TEST_F(MovimientosDeCajaTest, APeriodFromADayToAnEarlierOneIsNotOneDay)
+{
+    m_tienda.periodo(16, 15);
+    m_tienda.mueve(u"caja_inicial"_s, 50, u"#03/16/2024#"_s);
+    EXPECT_FALSE(esDeUnDia(m_tienda.contexto));
+    EXPECT_EQ(cajaInicialDelDia(m_tienda.listados), 0);
 }
 
 TEST_F(MovimientosDeCajaTest, TheProgressBarGoesOnWithEachRowOnlyWhenItIsTo)
