@@ -1,6 +1,6 @@
 #include "cash/listado_albaranes.h"
 
-#include "cash/sentencias_enviadas.h"
+#include "cash/caja_escuchada.h"
 
 #include <gtest/gtest.h>
 
@@ -99,16 +99,14 @@ TEST_F(ListadoAlbaranesTest, TheStoreHeadsTheRowsAndHasNoPartInThem)
 TEST_F(ListadoAlbaranesTest, TheShopIsAskedInTheseTextsToTheLastBlank)
 {
     albaran(3, 80, {{}});
-    EXPECT_EQ(
-        prueba::SentenciasEnviadas{m_tienda}.ademasDe(
-            {u"Select * from cabecera_factura_temp where num_albaran >0 and fecha between #03/15/2024# and #03/15/2024# order by "
-             "numero"_s,
-             u"Select * from detalle_factura_temp where num_factura = 3"_s,
-             u"Select Nombre,Apellidos from clientes where codigo = 5 and (tienda like '%' or tienda is null)"_s,
-             u"Select Nombre from formapago where codigo = 2"_s,
-             u"Select observacion,fecha,hora,empleado from observacioncaja where fecha between #03/15/2024# and #03/15/2024#"_s},
-            ListadoAlbaranes),
-        QStringList{});
+    prueba::CajaEscuchada{m_tienda}.pruebaTodas(
+        {u"Select * from cabecera_factura_temp where num_albaran >0 and fecha between #03/15/2024# and #03/15/2024# order by "
+         "numero"_s,
+         u"Select * from detalle_factura_temp where num_factura = 3"_s,
+         u"Select Nombre,Apellidos from clientes where codigo = 5 and (tienda like '%' or tienda is null)"_s,
+         u"Select Nombre from formapago where codigo = 2"_s,
+         u"Select observacion,fecha,hora,empleado from observacioncaja where fecha between #03/15/2024# and #03/15/2024#"_s},
+        ListadoAlbaranes);
 }
 
 TEST_F(ListadoAlbaranesTest, NoOtherColumnIsWritten)
@@ -120,6 +118,35 @@ TEST_F(ListadoAlbaranesTest, NoOtherColumnIsWritten)
                            u"texto22"_s,   u"texto23"_s,   u"texto34"_s,   u"texto35"_s,    u"numerico1"_s,  u"numerico2"_s,
                            u"numerico3"_s, u"numerico8"_s, u"numerico9"_s, u"numerico13"_s, u"numerico14"_s, u"numerico17"_s,
                            u"fecha1"_s,    u"fecha2"_s,    u"fecha3"_s}));
+}
+
+TEST_F(ListadoAlbaranesTest, TheReportsDatabaseIsWrittenInThisOrder)
+{
+    m_tienda.tienda.ejecuta(u"insert into productos (codigo, coste) values (12, 4)"_s);
+    albaran(3, 80, {{.unidades = 3}, {.codigo = 12, .tipo = u"'P'"_s, .unidades = 2, .precio = u"20"_s}});
+    EXPECT_EQ(prueba::CajaEscuchada{m_tienda}.cambios(ListadoAlbaranes),
+              (QStringList{u"DELETE FROM informes"_s, u"filas en informes"_s, u"UPDATE informes SET numerico13 = 12,1"_s,
+                           u"UPDATE informes SET numerico14 = 20"_s, u"UPDATE informes SET numerico9 = 8"_s,
+                           u"UPDATE informes SET numerico8 = 3"_s, u"UPDATE informes SET numerico17 = 1"_s,
+                           u"DELETE FROM subinformes"_s}));
+}
+
+TEST_F(ListadoAlbaranesTest, MoreTicketsThanASixteenBitCounterHoldsEndTheRun)
+{
+    albaran(1, 80, {{}});
+    Recordset albaranes;
+    albaranes.Open(u"Select * from cabecera_factura_temp"_s, m_tienda.contexto.ConexionTienda, CursorType::Keyset);
+    for (int numero = 2; numero <= 32768; ++numero) {
+        albaranes.AddNew();
+        albaranes.Fields(u"Numero") = qint32{numero};
+        albaranes.Fields(u"fecha") = m_tienda.contexto.FechaDesde;
+        albaranes.Fields(u"num_albaran") = qint32{numero};
+        albaranes.Update();
+    }
+    albaranes.Close();
+    const auto ambito = m_tienda.contexto.ConexionTienda.EmpiezaInforme();
+    EXPECT_EQ(m_tienda.error(ListadoAlbaranes), ErrorEjecucion::Desbordamiento);
+    EXPECT_EQ(m_tienda.filas(u"numerico1,numerico17"_s), QStringList{u"80|nulo"_s}) << "the row written so far stays";
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "cash/listado_caja_diaria.h"
 
-#include "cash/sentencias_enviadas.h"
+#include "cash/caja_escuchada.h"
 
 #include <gtest/gtest.h>
 
@@ -8,12 +8,11 @@ namespace kestrane {
 namespace {
 
 using namespace Qt::StringLiterals;
-using prueba::SentenciasEnviadas;
+using prueba::CajaEscuchada;
 
 class ListadoCajaDiariaTest : public testing::Test
 {
 protected:
-    /// Numbers so unlike those of the tests that nobody expects statements with them.
     void llena()
     {
         m_tienda.vende({.numero = 7, .cliente = 5}, {{.tipo = u"'B'"_s}, {.codigo = 12, .tipo = u"'P'"_s}});
@@ -71,7 +70,7 @@ TEST_F(ListadoCajaDiariaTest, TheShopIsAskedInTheseTextsToTheLastBlank)
 {
     llena();
     m_tienda.contexto.CajaCompleta = true;
-    EXPECT_EQ(SentenciasEnviadas{m_tienda}.ademasDe(sentencias({}), ListadoCajaDiaria), QStringList{});
+    CajaEscuchada{m_tienda}.pruebaTodas(sentencias({}), ListadoCajaDiaria);
 }
 
 TEST_F(ListadoCajaDiariaTest, TheShopIsAskedInTheseTextsForAStoreOfAChain)
@@ -79,25 +78,46 @@ TEST_F(ListadoCajaDiariaTest, TheShopIsAskedInTheseTextsForAStoreOfAChain)
     llena();
     m_tienda.contexto.CajaCompleta = m_tienda.contexto.MultiTienda = true;
     m_tienda.contexto.TiendaSeleccionada = u"Centro"_s;
-    EXPECT_EQ(SentenciasEnviadas{m_tienda}.ademasDe(sentencias(u"Centro"_s), ListadoCajaDiaria), QStringList{});
+    CajaEscuchada{m_tienda}.pruebaTodas(sentencias(u"Centro"_s), ListadoCajaDiaria);
 }
 
 TEST_F(ListadoCajaDiariaTest, RetailShopsAskForReturnsWithoutVouchersAndForVouchers)
 {
     m_tienda.contexto.TipoPrograma = u"TALLACOLOR"_s;
     m_tienda.vende({.numero = 7}, {{.codigo = 12, .tipo = u"'P'"_s, .hijo = u"'4'"_s}, {.codigo = 13, .tipo = u"'P'"_s}});
-    QStringList todas = sentencias({});
-    todas += {
-        u"Select * from cabecera_abono  where num_factura not in (select num_factura from vales_descuento)    and fechaventa "
-        "between #03/15/2024# and #03/15/2024#  and tienda like '%' order by numero"_s,
-        u"Select num_factura_aplicado from Vales_descuento where num_factura_aplicado = 7"_s,
-        u"Select coste from productostextil where codigopadre = 12 and codigohijo = '4'"_s,
-        u"Select coste from productos where codigo = 13"_s,
-    };
-    const QStringList demas = SentenciasEnviadas{m_tienda}.ademasDe(todas, ListadoCajaDiaria);
-    ASSERT_EQ(demas.size(), 1) << "a keyset cursor, on the vouchers alone, is always asked for";
-    EXPECT_TRUE(demas[0].contains(u"FROM vales_descuento INNER JOIN cabecera_factura"_s, Qt::CaseInsensitive))
-        << demas[0].toStdString();
+    CajaEscuchada escucha{m_tienda};
+    const QString periodo = u"#03/15/2024# and #03/15/2024#"_s;
+    const QStringList vales = escucha.enviadas({}, [&](Listados& listados) {
+        Recordset filas;
+        filas.Open(u"SELECT Vales_Descuento.Desde, Vales_Descuento.Num_Factura, Cabecera_Factura.Empleado, "
+                   "Cabecera_Factura.Cliente, Vales_Descuento.Descuento, clientes.Nombre,clientes.apellidos,"
+                   "Vales_Descuento.num_Factura_aplicado  FROM (Vales_Descuento INNER JOIN Cabecera_Factura ON "
+                   "Vales_Descuento.Num_Factura = Cabecera_Factura.Numero) LEFT JOIN Clientes ON "
+                   "Cabecera_Factura.Cliente = Clientes.Codigo  where vales_descuento.desde between "_s +
+                       periodo,
+                   listados.contexto.ConexionTienda, CursorType::Keyset);
+        EXPECT_TRUE(filas.Eof());
+    });
+    ASSERT_EQ(vales.size(), 1) << "a keyset cursor, on the vouchers alone, is always asked for";
+    escucha.pruebaTodas(
+        {u"Select * from caja_inicial where fecha = #03/15/2024# and tienda like '%'"_s,
+         u"Select * from cabecera_factura where fechaventa between "_s + periodo + u" and tienda like '%' order by numero"_s,
+         u"Select * from detalle_factura where num_factura = 7  and tienda like '%'"_s,
+         u"Select Nombre,Apellidos, NIF from clientes where codigo = 0 and (tienda like '%' or tienda is null)"_s,
+         u"Select Nombre from formapago where codigo = 1"_s,
+         u"Select num_factura_aplicado from Vales_descuento where num_factura_aplicado = 7"_s,
+         u"Select coste from productostextil where codigopadre = 12 and codigohijo = '4'"_s,
+         u"Select coste from productos where codigo = 13"_s,
+         u"Select num_pago from cabecera_pago where num_factura= 7 and tienda like '%'"_s,
+         u"Select * from detalle_pago where fecha between "_s + periodo + u"  and tienda like '%'"_s,
+         u"Select * from cabecera_abono  where num_factura not in (select num_factura from vales_descuento)    and fechaventa "
+         "between "_s +
+             periodo + u"  and tienda like '%' order by numero"_s,
+         u"Select * from gastos where fecha between "_s + periodo + u"  and tienda like '%'"_s,
+         u"Select * from retiradas where fecha between "_s + periodo + u"  and tienda like '%'"_s,
+         u"Select observacion,fecha,hora,empleado from observacioncaja where fecha between "_s + periodo +
+             u"  and tienda like '%'"_s},
+        ListadoCajaDiaria, vales);
 }
 
 TEST_F(ListadoCajaDiariaTest, ManyTicketsAreReadAheadInFewStatements)
@@ -106,7 +126,7 @@ TEST_F(ListadoCajaDiariaTest, ManyTicketsAreReadAheadInFewStatements)
         m_tienda.vende({.numero = numero, .cliente = numero + 1000, .pago = QString::number(numero % 2 + 1)});
         m_tienda.devuelve({.numero = numero, .cliente = numero + 2000, .venta = numero});
     }
-    const qsizetype enviadas = SentenciasEnviadas{m_tienda}.deUnInforme(ListadoCajaDiaria).size();
+    const qsizetype enviadas = CajaEscuchada{m_tienda}.enviadas({}, ListadoCajaDiaria).size();
     EXPECT_LT(enviadas, 40) << "400 tickets and 400 returns";
 }
 
@@ -153,6 +173,30 @@ TEST_F(ListadoCajaDiariaTest, AnApostropheInTheStoresNameEndsTheRunWithTheDataba
 {
     m_tienda.contexto.TiendaSeleccionada = u"L'Eixample"_s;
     EXPECT_EQ(m_tienda.error(ListadoCajaDiaria), ErrorEjecucion::SentenciaRechazada);
+}
+
+TEST_F(ListadoCajaDiariaTest, OpeningCashAndWithdrawalsAreReadOnASingleDayAlone)
+{
+    const QRegularExpression deUnDia{u"caja_inicial|retiradas"_s};
+    EXPECT_EQ(CajaEscuchada{m_tienda}.enviadas({}, ListadoCajaDiaria).filter(deUnDia).size(), 2);
+    m_tienda.periodo(15, 16);
+    EXPECT_EQ(CajaEscuchada{m_tienda}.enviadas({}, ListadoCajaDiaria).filter(deUnDia), QStringList{});
+}
+
+TEST_F(ListadoCajaDiariaTest, TheReportsDatabaseIsWrittenInThisOrder)
+{
+    m_tienda.tienda.ejecuta(u"insert into productos (codigo, coste) values (12, 4)"_s);
+    m_tienda.vende({.numero = 7}, {{.unidades = 3}, {.codigo = 12, .tipo = u"'P'"_s, .unidades = 2, .precio = u"20"_s}});
+    m_tienda.mueve(u"caja_inicial"_s, 7);
+    m_tienda.mueve(u"gastos"_s, 5.5);
+    m_tienda.paga(9, 2);
+    m_tienda.tienda.ejecuta(u"insert into observacioncaja (fecha, empleado, tienda) values (#03/15/2024#, 1, 'Centro')"_s);
+    EXPECT_EQ(CajaEscuchada{m_tienda}.cambios(ListadoCajaDiaria),
+              (QStringList{u"DELETE FROM informes"_s, u"filas en informes"_s, u"UPDATE informes SET numerico13 = 12,1"_s,
+                           u"UPDATE informes SET numerico14 = 20"_s, u"UPDATE informes SET numerico9 = 8"_s,
+                           u"UPDATE informes SET numerico8 = 3"_s, u"UPDATE informes SET numerico10 = 7"_s,
+                           u"UPDATE informes SET numerico17 = 1"_s, u"UPDATE informes SET numerico16 = 5,5"_s,
+                           u"UPDATE informes SET numerico18 = 2"_s, u"DELETE FROM subinformes"_s, u"filas en subinformes"_s}));
 }
 
 } // namespace

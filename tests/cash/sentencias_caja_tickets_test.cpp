@@ -31,16 +31,7 @@ protected:
 
     QStringList enviadas(const QStringList& conocidas) { return m_tienda.enviadas(conocidas, ListadoCajaTickets); }
 
-    /// Every one of them is asked, and nothing else.
-    void pruebaTodas(const QStringList& textos)
-    {
-        EXPECT_EQ(enviadas(textos), QStringList{});
-        for (const QString& texto : textos) {
-            QStringList otros = textos;
-            otros.removeAll(texto);
-            EXPECT_EQ(enviadas(otros + QStringList{texto + u' '}).size(), 1) << texto.toStdString();
-        }
-    }
+    void pruebaTodas(const QStringList& textos) { m_tienda.pruebaTodas(textos, ListadoCajaTickets); }
 
     prueba::TiendaEscuchada m_tienda;
 };
@@ -81,12 +72,14 @@ TEST_F(SentenciasCajaTicketsTest, ATicketIsAskedForItsFormOfPaymentAndItsDebt)
          u"insert into detalle_factura (num_factura, codigo, tipo_venta, tipoimpuesto, impuesto, precio) values"
          " (118, 3, 'S', 0, 0, 5)"_s});
     QStringList textos = textosDelCorpus(Area, u" sin_tienda"_s);
+    textos.removeAll(textoDelCorpus(Area, u"ListadoCajaTickets.caja inicial sin_tienda"_s));
+    textos.removeAll(textoDelCorpus(Area, u"ListadoCajaTickets.retiradas sin_tienda"_s));
     textos += textoDelCorpus(Area, u"ListadoCajaTickets.impuestos"_s);
     textos += QStringList{u"Select Nombre from formapago where codigo = 2"_s,
                           u"Select num_pago from cabecera_pago where num_factura= 118 and tienda like '%'"_s,
                           u"Select importe from cabecera_pago where num_factura = 118"_s,
                           u"Select codigo from detalle_abono where num_factura = 118 and codigo = 3"_s};
-    EXPECT_EQ(enviadas(textos), QStringList{});
+    pruebaTodas(textos);
 }
 
 /// 300 tickets, every third with a debt, every second by card.
