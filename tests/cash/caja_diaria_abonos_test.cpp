@@ -37,6 +37,12 @@ TEST_F(CajaDiariaAbonosTest, ASecondTaxThatIsNullCountsAsNone)
     EXPECT_EQ(filas(u"numerico2,numerico3"_s), QStringList{u"-14,2|-2,1"_s});
 }
 
+TEST_F(CajaDiariaAbonosTest, OneWithoutTaxHasAPlainZero)
+{
+    m_tienda.devuelve({.venta = 70}, {{.impuesto = u"0"_s}});
+    EXPECT_EQ(filas(u"numerico2,numerico3"_s), QStringList{u"-12,1|0"_s});
+}
+
 TEST_F(CajaDiariaAbonosTest, OnlyAServiceOfAPackHasATextOfItsOwn)
 {
     m_tienda.devuelve({.venta = 70}, {{.tipo = u"'SF'"_s}, {.tipo = u"'CB'"_s}, {.tipo = u"'PSPA'"_s}, {.tipo = u"'SP'"_s}});

@@ -65,6 +65,12 @@ TEST_F(FormasPagoCobrosTest, AReturnTurnsTheSignOfItsSale)
               QStringList{u"15/03/2024|3|3 / 70|3|Eva Ruiz|Abono: Corte|Ana Paz|Tarjeta|2|-10|-2,1|6|Devoluciones de venta"_s});
 }
 
+TEST_F(FormasPagoCobrosTest, AReturnWithoutTaxHasAPlainZero)
+{
+    m_tienda.devuelve({.venta = 70}, {{.impuesto = u"0"_s}});
+    EXPECT_EQ(filas(u"numerico2,numerico3"_s), QStringList{u"-12,1|0"_s});
+}
+
 TEST_F(FormasPagoCobrosTest, InRetailAReturnThatLeftAVoucherIsListedToo)
 {
     m_tienda.contexto.TipoPrograma = u"TPV"_s;

@@ -50,6 +50,13 @@ TEST_F(FormasPagoVentasTest, TheKindOfLineDecidesItsBlockAndItsText)
                            u"nulo|Corte"_s}));
 }
 
+TEST_F(FormasPagoVentasTest, ALineWithoutADescriptionHasNoTextButWhatItsKindPutsBefore)
+{
+    m_tienda.vende({.numero = 7}, {{}, {.tipo = u"'P'"_s}, {.tipo = u"'PSPA'"_s}, {.tipo = u"'CB'"_s}});
+    m_tienda.tienda.ejecuta(u"update detalle_factura set producto = null"_s);
+    EXPECT_EQ(filas(u"texto3"_s), (QStringList{u"nulo"_s, u"nulo"_s, u"nulo"_s, u"Cons.Bono: "_s}));
+}
+
 TEST_F(FormasPagoVentasTest, TheSpaPackOfThisReportIsTheKindSP)
 {
     m_tienda.vende({.numero = 7}, {{.tipo = u"'SP'"_s, .precio = u"1"_s},

@@ -34,6 +34,13 @@ TEST_F(ListadoPorServiciosTest, ALineShowsItsSaleCodeUnitPriceUnitsNetAndTax)
               QStringList{u"2|Ventas Generales|nulo|nulo|nulo|0"_s});
 }
 
+TEST_F(ListadoPorServiciosTest, AServiceWithoutADescriptionHasNoText)
+{
+    m_tienda.vende({.numero = 7});
+    m_tienda.tienda.ejecuta(u"update detalle_factura set producto = null"_s);
+    EXPECT_EQ(filas(u"texto3"_s), QStringList{u"nulo"_s});
+}
+
 TEST_F(ListadoPorServiciosTest, TheTaxNumberIsNotJoinedToTheStore)
 {
     m_tienda.contexto.MultiTienda = true;
@@ -145,6 +152,12 @@ TEST_F(ListadoPorServiciosTest, AReturnTurnsTheSignOfItsSale)
     EXPECT_EQ(filas(u"numerico1,texto10,texto2,numerico11,texto24,numerico5,texto3,texto7,numerico2,numerico3,texto22,texto21"_s),
               QStringList{u"3|3 / 70|Eva Ruiz|6,05|31|-2|Abono: Corte|Ana Paz|-10|-2,1|6|Devoluciones de venta"_s});
     EXPECT_EQ(totales(), u"-12,1|-2|0"_s);
+}
+
+TEST_F(ListadoPorServiciosTest, AReturnWithoutTaxHasAPlainZero)
+{
+    m_tienda.devuelve({.venta = 70}, {{.impuesto = u"0"_s}});
+    EXPECT_EQ(filas(u"numerico2,numerico3"_s), QStringList{u"-12,1|0"_s});
 }
 
 TEST_F(ListadoPorServiciosTest, AReturnOfTheReservedServiceLowersTheTotalsThatItsSaleNeverRaised)

@@ -2,6 +2,8 @@
 
 #include "cash/vocabulary/prueba_vocabulario.h"
 
+#include <cmath>
+
 namespace kestrane {
 namespace {
 
@@ -42,6 +44,12 @@ TEST_F(ImportesTest, TheSecondTaxOfAReturnIsZeroWhenItIsNull)
     EXPECT_EQ(de(impuestosDeAbono, u"121"_s, u"21"_s, u"null"_s), Valor{21.0});
     EXPECT_EQ(de(impuestosDeAbono, u"121"_s, u"21"_s, u"0.5"_s), Valor{21.5});
     EXPECT_EQ(de(impuestosDeAbono, u"121"_s, u"null"_s, u"0.5"_s), Valor{});
+}
+
+TEST_F(ImportesTest, TheOppositeOfNothingHasNoSign)
+{
+    EXPECT_FALSE(std::signbit(importes::opuesto(0.0).doble()));
+    EXPECT_TRUE(std::signbit(importes::opuesto(1.0).doble()));
 }
 
 TEST_F(ImportesTest, ArithmeticOfNullIsNull)
