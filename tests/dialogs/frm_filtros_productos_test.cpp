@@ -209,12 +209,13 @@ TEST_F(FrmFiltrosProductosTest, WithTheKeyboardAloneAListingIsAskedFor)
     EXPECT_TRUE(m_contexto.FiltroAceptado);
 }
 
-TEST_F(FrmFiltrosProductosTest, WithoutSuppliersAndSectionsTheirPanelsAreEmptyAndTheClassesRemain)
+TEST_F(FrmFiltrosProductosTest, WithoutSuppliersAndSectionsTheirPanelsHoldTheButtonForAllAlone)
 {
     m_tienda.ejecuta({u"delete from proveedores"_s, u"delete from seccion"_s});
     abre();
     for (const QString& nombre : {u"PanelProveedores"_s, u"PanelProveedoresBM"_s, u"PanelSecciones"_s})
-        EXPECT_TRUE(textos(nombre).isEmpty());
+        EXPECT_EQ(textos(nombre).size(), 1) << nombre.toStdString();
+    EXPECT_EQ(textos(u"PanelSecciones"_s), QStringList{u"Todas las Secciones"_s});
     pulsa(u"optAmbos"_s);
     EXPECT_EQ(aceptables(), QStringList{u"cmdAceptarTipo"_s});
 }

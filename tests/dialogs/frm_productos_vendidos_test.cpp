@@ -91,14 +91,16 @@ TEST_F(FrmProductosVendidosTest, WithTheKeyboardAloneEachPageIsOneKey)
     EXPECT_TRUE(m_contexto.FiltroAceptado);
 }
 
-TEST_F(FrmProductosVendidosTest, AShopWithoutSuppliersEndsAtAnEmptyPanelWithItsWaysOut)
+TEST_F(FrmProductosVendidosTest, AShopWithoutSuppliersAsksForAllOfThem)
 {
     m_tienda.ejecuta(u"delete from proveedores"_s);
     abre();
     pulsaFicha(u"PanelEmpleados"_s, 0);
     EXPECT_TRUE(enProveedores());
-    EXPECT_TRUE(textos(u"PanelProveedores"_s).isEmpty());
+    EXPECT_EQ(textos(u"PanelProveedores"_s), QStringList{u"Todos los Proveedores"_s});
     EXPECT_TRUE(seVe(u"Command2"_s) && seVe(u"cmd_Salir"_s));
+    pulsaFicha(u"PanelProveedores"_s, 0);
+    EXPECT_TRUE(m_contexto.FiltroAceptado);
 }
 
 TEST_F(FrmProductosVendidosTest, SuppliersHaveTheirColoursAndEmployeesWhereTheShopUsesThem)
