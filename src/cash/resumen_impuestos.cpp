@@ -28,11 +28,18 @@ private:
     void suma(Recordset& linea);
     void cierraGrupo();
     [[nodiscard]] bool cuenta(Recordset& linea);
+    [[nodiscard]] bool devuelta(Recordset& linea);
 
     Listados& m_listados;
     Recordset m_filas;
     Grupo m_grupo; ///< begins as one of rate 0, which a first line of another rate closes empty
 };
+
+/// Whatever lines of a sale were returned.
+ConsultaPorCodigo consultaDeDevueltas()
+{
+    return {u"Select codigo from detalle_abono where num_factura = "_s, {}};
+}
 
 void ResumenDeImpuestos::construye()
 {
@@ -47,6 +54,7 @@ void ResumenDeImpuestos::construye()
         contexto.ConexionTienda);
     if (lineas.RecordCount() <= 0)
         return;
+    consultaDeDevueltas().anuncia(lineas, u"num_factura"_s);
     for (Recordset& linea : lineas) {
         if (cuenta(linea))
             suma(linea);
@@ -57,8 +65,17 @@ void ResumenDeImpuestos::construye()
 
 bool ResumenDeImpuestos::cuenta(Recordset& linea)
 {
-    return !esIngresoEnDeposito(m_listados, linea) &&
-           !TieneDetalleAbono(m_listados, linea.Fields(u"num_factura"), linea.Fields(u"codigo"));
+    return !esIngresoEnDeposito(m_listados, linea) && !devuelta(linea);
+}
+
+/// Hardly any sale has returned lines, and whether one has can be read ahead: its lines then need not be looked up one by one.
+bool ResumenDeImpuestos::devuelta(Recordset& linea)
+{
+    const Valor factura = linea.Fields(u"num_factura");
+    const Valor codigo = linea.Fields(u"codigo");
+    if (!codigo.esNulo() && !hayFila(m_listados, consultaDeDevueltas().sentencia(m_listados, factura)))
+        return false;
+    return TieneDetalleAbono(m_listados, factura, codigo);
 }
 
 void ResumenDeImpuestos::suma(Recordset& linea)

@@ -64,13 +64,15 @@ TEST_F(SentenciasCajaTicketsTest, WithoutTheWholeCashTheAnnulledTicketsAreNotRea
     EXPECT_EQ(enviadas({}).filter(u"anulaciones"_s), QStringList{});
 }
 
-TEST_F(SentenciasCajaTicketsTest, ATicketIsAskedForItsFormOfPaymentAndItsDebt)
+/// Which line was returned is asked when the sale has a returned line at all, which is read ahead.
+TEST_F(SentenciasCajaTicketsTest, ATicketIsAskedForItsFormOfPaymentItsDebtAndItsReturnedLines)
 {
     m_tienda.tienda.ejecuta(
         {u"insert into cabecera_factura (Numero, fechaventa, tienda, pago, total) values (118, #03/15/2024#, '', 2, 5)"_s,
          u"insert into cabecera_pago (num_pago, num_factura, importe, tienda) values (1, 118, 2, '')"_s,
          u"insert into detalle_factura (num_factura, codigo, tipo_venta, tipoimpuesto, impuesto, precio) values"
-         " (118, 3, 'S', 0, 0, 5)"_s});
+         " (118, 3, 'S', 0, 0, 5)"_s,
+         u"insert into detalle_abono (num_factura, codigo) values (118, 4)"_s});
     QStringList textos = textosDelCorpus(Area, u" sin_tienda"_s);
     textos.removeAll(textoDelCorpus(Area, u"ListadoCajaTickets.caja inicial sin_tienda"_s));
     textos.removeAll(textoDelCorpus(Area, u"ListadoCajaTickets.retiradas sin_tienda"_s));
@@ -78,6 +80,7 @@ TEST_F(SentenciasCajaTicketsTest, ATicketIsAskedForItsFormOfPaymentAndItsDebt)
     textos += QStringList{u"Select Nombre from formapago where codigo = 2"_s,
                           u"Select num_pago from cabecera_pago where num_factura= 118 and tienda like '%'"_s,
                           u"Select importe from cabecera_pago where num_factura = 118"_s,
+                          u"Select codigo from detalle_abono where num_factura = 118"_s,
                           u"Select codigo from detalle_abono where num_factura = 118 and codigo = 3"_s};
     pruebaTodas(textos);
 }
