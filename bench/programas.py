@@ -62,6 +62,16 @@ def fill_with_suppliers(folder, data, suppliers):
     shop.close()
 
 
+def till(folder, sizes):
+    """The cash ticket by ticket: the rows grow with the period, the memory is not to."""
+    for size, desde in sizes:
+        with tempfile.TemporaryDirectory() as data:
+            subprocess.run(crea(folder, f"{data}/datos", size), check=True, stdout=subprocess.DEVNULL)
+            for name, since in (("a month", "2024-05-15"), ("a year", desde)):
+                measure(f"listados-lote, cmd_Caja4 over {name} of `{size}`", "a year at most 1.3 times the memory of a month",
+                        listado(folder, f"{data}/datos", "cmd_Caja4", "--desde", since, "--hasta", "2024-06-14"))
+
+
 def menu(folder, program_folder):
     """The start of the desktop program without a screen, and its parts, as the last of several starts tells them."""
     os.environ["QT_QPA_PLATFORM"] = "offscreen"
@@ -87,6 +97,7 @@ def main():
         measure(f"listados-lote, {PROVEEDORES} rows in JSON", "under 0.3 s", listado(folder, data, "cmd_Generales10"), 1 if smoke else 5)
         measure(f"listados-lote, {PROVEEDORES} rows in CSV", "under 0.3 s",
                 listado(folder, data, "cmd_Generales10", "--formato", "csv"), 1 if smoke else 5)
+    till(folder, [("dia", "2023-06-15")] if smoke else [("anio", "2023-06-15")])
     on_paper = 1_000 if smoke else PROVEEDORES_EN_PAPEL
     with tempfile.TemporaryDirectory() as data:
         fill_with_suppliers(folder, data, on_paper)

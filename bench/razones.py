@@ -8,7 +8,7 @@ import json
 import subprocess
 import sys
 
-COUNTERS = ("ms", "MB", "filas", "paginas", "grupos")  # the last word of a counter's name
+COUNTERS = ("ms", "MB", "filas", "paginas", "grupos", "ticket")  # the last word of a counter's name
 
 
 def main():
