@@ -60,7 +60,7 @@ void ponPago(TiendaDePrueba& tienda, const QString& ticket, const QString& conce
                         {u"numerico3"_s, impuestos},
                         {u"fecha3"_s, dia(20)},
                         {u"texto2"_s, u"Eva Soto"_s},
-                        {u"texto7"_s, u"Ana Paz"_s},
+                        {u"texto7"_s, concepto.startsWith(u"Pagado ") ? u"3"_s : u"Ana Paz"_s}, // money shows a code
                         {u"texto21"_s, u"Ventas Generales"_s}});
 }
 

@@ -72,8 +72,8 @@ TEST_F(VentasPorFormasDePago, GroupsByFormWithTheUnpaidLast)
 
 TEST_F(VentasPorFormasDePago, ShowsTheMoneyOfASplitSaleInCashAndInCard)
 {
-    EXPECT_TRUE(imprime().diceEnOrden({u"702 Eva Soto Pagado al Contado Factura: 702 Ana Paz 20,00 0,00 20,00"_s,
-                                       u"702 Eva Soto Pagado en Tarjeta Factura: 702 Ana Paz 28,40 0,00 28,40"_s,
+    EXPECT_TRUE(imprime().diceEnOrden({u"702 Eva Soto Pagado al Contado Factura: 702 Empleado 3 20,00 0,00 20,00"_s,
+                                       u"702 Eva Soto Pagado en Tarjeta Factura: 702 Empleado 3 28,40 0,00 28,40"_s,
                                        u"702 Eva Soto Tinte Ana Paz 0,00 0,00 0,00"_s}));
 }
 
