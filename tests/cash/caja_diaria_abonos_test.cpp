@@ -9,17 +9,10 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-class CajaDiariaAbonosTest : public testing::Test
+class CajaDiariaAbonosTest : public prueba::PruebaDeInforme<ListadoCajaDiaria>
 {
 protected:
-    QStringList filas(const QString& columnas)
-    {
-        ListadoCajaDiaria(m_tienda.listados);
-        return m_tienda.filas(columnas);
-    }
     QString totales() { return filas(u"numerico13,numerico14,numerico9,numerico8,numerico17"_s).constFirst(); }
-
-    prueba::TiendaDeCaja m_tienda;
 };
 
 TEST_F(CajaDiariaAbonosTest, TheTaxIsAddedToWhatIsGivenBack)

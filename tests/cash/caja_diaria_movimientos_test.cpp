@@ -11,16 +11,8 @@ using namespace Qt::StringLiterals;
 
 const QString Todas = u"fecha3,numerico1,texto10,texto2,texto3,texto7,texto4,texto23,numerico2,numerico3,texto22,texto21,texto30"_s;
 
-class CajaDiariaMovimientosTest : public testing::Test
+class CajaDiariaMovimientosTest : public prueba::PruebaDeInforme<ListadoCajaDiaria>
 {
-protected:
-    QStringList filas(const QString& columnas)
-    {
-        ListadoCajaDiaria(m_tienda.listados);
-        return m_tienda.filas(columnas);
-    }
-
-    prueba::TiendaDeCaja m_tienda;
 };
 
 TEST_F(CajaDiariaMovimientosTest, TheFirstOpeningCashOfTheDayHasARowDatedToday)

@@ -9,16 +9,8 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-class CajaDiariaVentasTest : public testing::Test
+class CajaDiariaVentasTest : public prueba::PruebaDeInforme<ListadoCajaDiaria>
 {
-protected:
-    QStringList filas(const QString& columnas)
-    {
-        ListadoCajaDiaria(m_tienda.listados);
-        return m_tienda.filas(columnas);
-    }
-
-    prueba::TiendaDeCaja m_tienda;
 };
 
 TEST_F(CajaDiariaVentasTest, ALineShowsItsSaleClientEmployeePaymentNetAndTax)

@@ -9,21 +9,14 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-class FormasPagoCobrosTest : public testing::Test
+class FormasPagoCobrosTest : public prueba::PruebaDeInforme<ListadoFormasPagoVentas>
 {
 protected:
-    QStringList filas(const QString& columnas)
-    {
-        ListadoFormasPagoVentas(m_tienda.listados);
-        return m_tienda.filas(columnas);
-    }
     QStringList resumen()
     {
         ListadoFormasPagoVentas(m_tienda.listados);
         return m_tienda.filas(u"texto1,numerico1"_s, u"subinformes"_s);
     }
-
-    prueba::TiendaDeCaja m_tienda;
 };
 
 TEST_F(FormasPagoCobrosTest, APaymentOfADebtIsARowOfItsSaleWithoutSortKeyAndATicket)

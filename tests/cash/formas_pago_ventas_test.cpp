@@ -10,16 +10,8 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-class FormasPagoVentasTest : public testing::Test
+class FormasPagoVentasTest : public prueba::PruebaDeInforme<ListadoFormasPagoVentas>
 {
-protected:
-    QStringList filas(const QString& columnas)
-    {
-        ListadoFormasPagoVentas(m_tienda.listados);
-        return m_tienda.filas(columnas);
-    }
-
-    prueba::TiendaDeCaja m_tienda;
 };
 
 TEST_F(FormasPagoVentasTest, ALineShowsItsSaleClientPaymentNetAndTax)

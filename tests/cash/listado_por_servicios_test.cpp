@@ -9,18 +9,11 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-class ListadoPorServiciosTest : public testing::Test
+class ListadoPorServiciosTest : public prueba::PruebaDeInforme<ListadoPorServicios>
 {
 protected:
-    QStringList filas(const QString& columnas)
-    {
-        ListadoPorServicios(m_tienda.listados);
-        return m_tienda.filas(columnas);
-    }
     /// Services, units and tickets.
     QString totales() { return filas(u"numerico13,numerico8,numerico17"_s).constFirst(); }
-
-    prueba::TiendaDeCaja m_tienda;
 };
 
 TEST_F(ListadoPorServiciosTest, ALineShowsItsSaleCodeUnitPriceUnitsNetAndTax)

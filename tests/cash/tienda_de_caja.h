@@ -3,6 +3,8 @@
 #include "pipeline/puesto_de_prueba.h"
 #include "platform/runtime/error_ejecucion.h"
 
+#include <gtest/gtest.h>
+
 #include <initializer_list>
 
 namespace kestrane::prueba {
@@ -199,6 +201,21 @@ private:
             tienda.ejecuta(QStringLiteral("insert into detalle_abono (num_abono, num_factura") +
                            columnasDeLinea().arg(QStringLiteral("%1, %2").arg(abono.numero).arg(abono.venta)) + valores(linea));
     }
+};
+
+/// A report of the till on such a shop.
+template<Constructor Construye>
+class PruebaDeInforme : public testing::Test
+{
+protected:
+    /// Builds the report and reads columns of its rows.
+    QStringList filas(const QString& columnas)
+    {
+        Construye(m_tienda.listados);
+        return m_tienda.filas(columnas);
+    }
+
+    TiendaDeCaja m_tienda;
 };
 
 } // namespace kestrane::prueba
